@@ -1,0 +1,30 @@
+# The few kinds of target that the project has. A folder says which kind it is and what it uses;
+# its sources are the .cpp files that lie in it.
+
+add_library(qor_options INTERFACE)
+target_compile_options(qor_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wduplicated-cond -Wlogical-op -Werror)
+target_include_directories(qor_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
+if(QOR_SANITIZE)
+  target_compile_options(qor_options INTERFACE -fsanitize=address,undefined -fno-sanitize=vptr
+    -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(qor_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# qor_library(name [DEPENDS libraries...]): a static library of the core or of a screen
+function(qor_library name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC qor_options ${ARG_DEPENDS})
+endfunction()
+
+# qor_test(name [DEPENDS libraries...]): a doctest program, run by ./test
+function(qor_test name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_executable(test_${name} ${sources} ${PROJECT_SOURCE_DIR}/tests/main.cpp)
+  target_link_libraries(test_${name} PRIVATE qor_options ${ARG_DEPENDS})
+  add_test(NAME ${name} COMMAND test_${name})
+endfunction()
