@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace qor {
+
+// A member's name, spelled once. Names that differ only in the case of letters are one name. A name carries a small
+// dense number, so that a host can keep what it knows about the name in an array.
+class MemberName {
+  public:
+    explicit MemberName(std::u16string_view text);
+
+    std::u16string_view text() const noexcept { return text_; }
+    std::size_t id() const noexcept { return id_; }
+    bool operator==(const MemberName& other) const noexcept { return id_ == other.id_; }
+
+  private:
+    std::u16string_view text_;  // in the spelling that came first; lives as long as the process
+    std::size_t id_;
+};
+
+}  // namespace qor
