@@ -1,0 +1,38 @@
+# Sourced by ./run and ./test: installs what a build, a run or a test needs, on Debian 12, as root or by sudo.
+
+# prepare_packages PACKAGE...: installs those that are missing; asks the network for nothing when none is.
+prepare_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing and there is no sudo to install them: ${missing[*]}" >&2
+            return 3
+        }
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}" >&2
+    "${as_root[@]}" apt-get update -qq &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+            "${missing[@]}" >&2 || {
+        echo "The packages could not be installed: ${missing[*]}" >&2
+        return 3
+    }
+}
+
+build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev
+    libreoffice-calc libreoffice-dev)
+run_packages=(libreoffice-gtk3 poppler-utils fonts-liberation)
+test_packages=(doctest-dev librapidcheck-dev libbenchmark-dev clang-format clang-tidy procps)
+
+# build PRESET [TARGET...]
+build() {
+    local preset=$1
+    shift
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    cmake --build "build/$preset" ${1:+--target "$@"}
+}
