@@ -17,11 +17,17 @@ enum class OnError : std::uint8_t {
     pass,   // passed over: the member answers what it starts with
 };
 
+// The accesses that a row answers to, as bits of Access. Hosts ask for methods as properties and the other way round.
+namespace accesses {
+inline constexpr unsigned callable = static_cast<unsigned>(Access::call) | static_cast<unsigned>(Access::get);
+inline constexpr unsigned readable_and_writable = callable | static_cast<unsigned>(Access::put);
+}  // namespace accesses
+
 // One member of an object: everything there is to know about it stands in its row.
 template <class Target>
 struct Member {
     std::u16string_view name;
-    unsigned accesses;                            // the Access values it answers to, or-ed
+    unsigned accesses;                            // see above
     std::vector<std::u16string_view> parameters;  // for named arguments; a put's value is not among them
     // Gets the positional arguments, named ones already in their places, trailing ones possibly absent.
     std::function<Variant(Target&, Access, std::span<Variant>)> invoke;

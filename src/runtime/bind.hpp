@@ -43,21 +43,21 @@ struct OptionalOf<std::optional<T>> : std::true_type {
     using type = T;
 };
 
+}  // namespace detail
+
+// The argument in that place, converted; one that is absent is Missing.
 template <class T>
 T argument(std::span<Variant> arguments, std::size_t place) {
     const Variant value = place < arguments.size() ? arguments[place] : Variant(Missing{});
-    if constexpr (OptionalOf<T>::value) {
+    if constexpr (detail::OptionalOf<T>::value) {
         if (value.is_missing()) return std::nullopt;
-        return convert<typename OptionalOf<T>::type>(value);
+        return detail::convert<typename detail::OptionalOf<T>::type>(value);
     } else {
-        return convert<T>(value);
+        return detail::convert<T>(value);
     }
 }
 
-template <class T>
-Variant result_of(T&& value) {
-    return Variant(std::forward<T>(value));
-}
+namespace detail {
 
 template <class Function>
 struct Signature;
@@ -127,7 +127,7 @@ template <auto function>
 Member<detail::TargetOf<function>> method(std::u16string_view name, std::vector<std::u16string_view> parameters = {},
                                           OnError on_error = OnError::leave) {
     return {name,
-            detail::bits(Access::call) | detail::bits(Access::get),
+            accesses::callable,
             std::move(parameters),
             [](auto& target, Access, std::span<Variant> arguments) {
                 return detail::call_member<function>(target, arguments);
@@ -148,7 +148,7 @@ template <auto reader, auto writer>
 Member<detail::TargetOf<reader>> property(std::u16string_view name, std::vector<std::u16string_view> parameters = {},
                                           OnError on_error = OnError::leave) {
     return {name,
-            detail::bits(Access::call) | detail::bits(Access::get) | detail::bits(Access::put),
+            accesses::readable_and_writable,
             std::move(parameters),
             [](auto& target, Access access, std::span<Variant> arguments) {
                 return access == Access::put ? detail::call_member<writer>(target, arguments)
@@ -162,11 +162,11 @@ Member<detail::TargetOf<reader>> property(std::u16string_view name, std::vector<
 template <auto field, class T, class Target>
 Member<Target> plain_property(T Target::*, std::u16string_view name, OnError on_error) {
     return {name,
-            detail::bits(Access::call) | detail::bits(Access::get) | detail::bits(Access::put),
+            accesses::readable_and_writable,
             {},
             [](Target& target, Access access, std::span<Variant> arguments) -> Variant {
                 if (access != Access::put) return Variant(target.*field);
-                target.*field = detail::argument<T>(arguments, 0);
+                target.*field = argument<T>(arguments, 0);
                 return {};
             },
             on_error,
