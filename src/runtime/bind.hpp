@@ -48,7 +48,8 @@ struct OptionalOf<std::optional<T>> : std::true_type {
 // The argument in that place, converted; one that is absent is Missing.
 template <class T>
 T argument(std::span<Variant> arguments, std::size_t place) {
-    const Variant value = place < arguments.size() ? arguments[place] : Variant(Missing{});
+    static const Variant missing(Missing{});
+    const Variant& value = place < arguments.size() ? arguments[place] : missing;
     if constexpr (detail::OptionalOf<T>::value) {
         if (value.is_missing()) return std::nullopt;
         return detail::convert<typename detail::OptionalOf<T>::type>(value);
