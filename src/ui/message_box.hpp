@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace qor {
+
+enum class MessageIcon : std::uint8_t { none, critical, question, exclamation, information };
+enum class MessageButtons : std::uint8_t { ok, ok_cancel, abort_retry_ignore, yes_no_cancel, yes_no, retry_cancel };
+enum class MessageAnswer : std::uint8_t { ok, cancel, abort, retry, ignore, yes, no };
+
+struct MessageBox {
+    std::u16string title;
+    std::u16string text;
+    MessageIcon icon = MessageIcon::none;
+    MessageButtons buttons = MessageButtons::ok;
+    std::uint8_t default_button = 0;  // place among the buttons, from the left, from 0
+};
+
+}  // namespace qor
