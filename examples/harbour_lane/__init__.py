@@ -1,0 +1,1 @@
+"""The sheets of the example model, one module a group of sheets."""
