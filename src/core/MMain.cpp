@@ -1,22 +1,24 @@
 #include "core/MMain.hpp"
 
-#include <utility>
+#include <cassert>
+#include <optional>
 
 namespace qor {
 namespace {
 
-Environment current;
+std::optional<Environment> current;
 
 }  // namespace
 
 Object gExcel;
 
-const Environment& environment() noexcept {
-    return current;
+void set_environment(const Environment& environment) noexcept {
+    current.emplace(environment);
 }
 
-Environment set_environment(const Environment& environment) noexcept {
-    return std::exchange(current, environment);
+const Environment& environment() noexcept {
+    assert(current);
+    return *current;
 }
 
 }  // namespace qor

@@ -9,14 +9,14 @@ namespace qor {
 // The host's application while a command runs; nothing between commands, so nobody may hold on to it.
 extern Object gExcel;
 
-// What the add-in stands on besides the host. Handed in once, before the first command; neither may be null.
+// What the add-in stands on besides the host.
 struct Environment {
-    Screen* screen = nullptr;
-    SettingsStore* settings = nullptr;
+    Screen& screen;
+    SettingsStore& settings;
 };
 
+// Handed in by the host before the first command; the last one holds.
+void set_environment(const Environment& environment) noexcept;
 const Environment& environment() noexcept;
-// Answers the environment that it replaces.
-Environment set_environment(const Environment& environment) noexcept;
 
 }  // namespace qor

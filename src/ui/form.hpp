@@ -14,16 +14,14 @@ namespace qor {
 // inside the command that shows it. It stays where it was made, since its controls refer to it.
 class Form {
   public:
-    Form(std::u16string_view name, Screen& screen, std::u16string caption = {})
-        : name_(name), screen_(screen), caption_(std::move(caption)) {}
+    Form(std::u16string_view name, Screen& screen) : name_(name), screen_(screen) {}
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
     virtual ~Form();
 
     const std::u16string& name() const noexcept { return name_; }
     Screen& screen() const noexcept { return screen_; }
-    const std::u16string& caption() const noexcept { return caption_; }
-    void set_caption(std::u16string caption) { caption_ = std::move(caption); }
+    virtual std::u16string_view caption() const noexcept = 0;
     virtual std::int32_t help_id() const noexcept { return 0; }  // 0: the form has no help
 
     // In the order in which they stand in the form.
@@ -49,7 +47,6 @@ class Form {
 
     std::u16string name_;
     Screen& screen_;
-    std::u16string caption_;
     std::vector<Control*> controls_;
     bool loaded_ = false;
     bool visible_ = false;
