@@ -1,0 +1,138 @@
+#include "hosts/calc/office/private_office.hpp"
+
+#include <com/sun/star/bridge/UnoUrlResolver.hpp>
+#include <com/sun/star/connection/NoConnectException.hpp>
+#include <com/sun/star/frame/Desktop.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
+#include <cppuhelper/bootstrap.hxx>
+#include <cstdlib>
+#include <osl/file.hxx>
+#include <rtl/bootstrap.hxx>
+
+#include "hosts/calc/office/office_socket.hpp"
+#include "hosts/calc/office/process/office_error.hpp"
+#include "hosts/calc/uno/text.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+namespace uno = com::sun::star::uno;
+using namespace std::chrono_literals;
+
+constexpr auto longest_start = 90s;
+constexpr auto usual_end = 500ms;  // it was seen to stall for seconds; then it is ended
+
+rtl::OUString text(std::string_view utf8) {
+    return to_uno(from_utf8(utf8));
+}
+
+std::string utf8(const rtl::OUString& text) {
+    return to_utf8(view_of(text));
+}
+
+rtl::OUString file_url(const std::filesystem::path& path) {
+    rtl::OUString url;
+    osl::FileBase::getFileURLFromSystemPath(text(path.native()), url);
+    return url;
+}
+
+std::filesystem::path make_private_folder() {
+    std::string name = std::filesystem::temp_directory_path() / "qorplus-XXXXXX";
+    if (!::mkdtemp(name.data())) throw OfficeError("no temporary folder can be made as " + name);
+    return name;
+}
+
+// The client's half of the bridge. It must know LibreOffice's types and services before anything else is done.
+uno::Reference<uno::XComponentContext> client_context(const std::filesystem::path& program) {
+    static const uno::Reference<uno::XComponentContext> context = [&] {
+        rtl::Bootstrap::set("URE_BOOTSTRAP", text("vnd.sun.star.pathname:" + (program / "fundamentalrc").string()));
+        return cppu::defaultBootstrap_InitialComponentContext();
+    }();
+    return context;
+}
+
+OfficeStart start_options(const std::filesystem::path& program, const std::filesystem::path& folder,
+                          std::span<const std::filesystem::path> component_lists, Profile profile) {
+    const std::string pipe_name = folder.filename();
+    OfficeStart start;
+    start.program = program;
+    start.leftovers = {folder, office_socket(pipe_name)};
+    start.arguments = {"--headless",  "--norestore",          "--nologo",
+                       "--nodefault", "--nofirststartwizard", "--accept=pipe,name=" + pipe_name + ";urp;"};
+    // Temporary files of a LibreOffice that is killed go with the rest.
+    start.environment = {"SAL_USE_VCLPLUGIN=svp", "TMPDIR=" + folder.string()};
+    if (profile == Profile::fresh) {
+        const rtl::OUString profile_url = file_url(folder / "profile");
+        start.leftovers.push_back(profile_socket(profile_url));
+        start.arguments.push_back("-env:UserInstallation=" + utf8(profile_url));
+        // The outcome of a run must not depend on the user's language; file names are UTF-8 whatever it is.
+        start.environment.emplace_back("LC_ALL=C.UTF-8");
+    }
+    if (!component_lists.empty()) {
+        std::string services = "-env:URE_MORE_SERVICES=";
+        for (const auto& list : component_lists) services += utf8(file_url(list)) + " ";
+        start.arguments.push_back(services + "<" + utf8(file_url(program / "services")) + ">*");
+    }
+    return start;
+}
+
+}  // namespace
+
+rtl::OUString user_profile_url(const std::filesystem::path& program) {
+    const rtl::Bootstrap settings(file_url(program / "bootstraprc"));
+    rtl::OUString url;
+    settings.getFrom("UserInstallation", url);
+    return url;
+}
+
+PrivateOffice::PrivateOffice(const std::filesystem::path& program,
+                             std::span<const std::filesystem::path> component_lists, Profile profile) {
+    if (profile == Profile::of_user && is_listening(profile_socket(user_profile_url(program)))) {
+        throw OfficeError("LibreOffice is running; close LibreOffice first");
+    }
+    const std::filesystem::path folder = make_private_folder();
+    process_.emplace(start_options(program, folder, component_lists, profile));
+    client_context(program);
+    connect(folder.filename());
+}
+
+PrivateOffice::~PrivateOffice() {
+    end_within(usual_end);
+}
+
+void PrivateOffice::connect(const std::string& pipe_name) {
+    const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(client_context({}));
+    const rtl::OUString address = text("uno:pipe,name=" + pipe_name + ";urp;StarOffice.ComponentContext");
+    const auto latest = std::chrono::steady_clock::now() + longest_start;
+    while (!context_.is()) {
+        if (process_->ends_within(10ms)) throw OfficeError("LibreOffice ended while it was starting");
+        if (std::chrono::steady_clock::now() > latest) throw OfficeError("LibreOffice did not answer in 90 seconds");
+        try {
+            context_.set(resolver->resolve(address), uno::UNO_QUERY);
+        } catch (const com::sun::star::connection::NoConnectException&) {
+            continue;  // it is not yet that far
+        }
+    }
+}
+
+void PrivateOffice::work(const std::function<void()>& task) {
+    try {
+        task();
+    } catch (const com::sun::star::lang::DisposedException&) {
+        throw OfficeError("LibreOffice ended unexpectedly; what was not saved before is lost");
+    } catch (const uno::Exception& refusal) {
+        throw OfficeError("LibreOffice refused: " + utf8(refusal.Message));
+    }
+}
+
+bool PrivateOffice::end_within(std::chrono::milliseconds limit) {
+    try {
+        com::sun::star::frame::Desktop::create(context_)->terminate();
+    } catch (const uno::Exception&) {
+        // Gone already: the bridge breaks as often before the answer as after it.
+    }
+    return process_->ends_within(limit);
+}
+
+}  // namespace qor::calc

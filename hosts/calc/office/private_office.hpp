@@ -1,0 +1,50 @@
+#pragma once
+
+#include <com/sun/star/uno/XComponentContext.hpp>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <span>
+
+#include "hosts/calc/office/process/office_process.hpp"
+
+namespace qor::calc {
+
+// Whose settings and extensions LibreOffice runs with.
+enum class Profile {
+    fresh,    // a new profile, removed at the end: nothing that the user has changed matters
+    of_user,  // the user's own, which only one LibreOffice at a time can hold
+};
+
+// A LibreOffice without a window, started for this object and ended with it. Only one thread may use it.
+class PrivateOffice {
+  public:
+    // `component_lists` are .components files whose services LibreOffice offers beside its own.
+    // Raises OfficeError when LibreOffice does not start and answer, or when the user's profile is in use.
+    PrivateOffice(const std::filesystem::path& program, std::span<const std::filesystem::path> component_lists,
+                  Profile profile = Profile::fresh);
+    PrivateOffice(const PrivateOffice&) = delete;
+    PrivateOffice& operator=(const PrivateOffice&) = delete;
+    ~PrivateOffice();
+
+    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context() const noexcept {
+        return context_;
+    }
+
+    // Does work that calls into LibreOffice. Raises OfficeError for a refusal, and for a LibreOffice that is gone.
+    void work(const std::function<void()>& task);
+
+    // Whether LibreOffice has done as asked and ended, waited for at most that long.
+    bool end_within(std::chrono::milliseconds limit);
+
+  private:
+    void connect(const std::string& pipe_name);
+
+    std::optional<OfficeProcess> process_;
+    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+};
+
+// The user's own profile as LibreOffice has it, as a file address.
+rtl::OUString user_profile_url(const std::filesystem::path& program);
+
+}  // namespace qor::calc
