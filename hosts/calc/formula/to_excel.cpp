@@ -1,0 +1,228 @@
+#include "hosts/calc/formula/scanner.hpp"
+#include "hosts/calc/formula/translator.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+// What stands in front of a reference: the address of another book, and a sheet.
+struct Place {
+    std::u16string book;
+    std::u16string sheet;
+    bool sheet_deleted = false;
+    bool any = false;
+};
+
+char hexadecimal(char16_t c) {
+    if (is_digit(c)) return static_cast<char>(c - u'0');
+    const auto lower = static_cast<char16_t>(c | 0x20);
+    return lower >= u'a' && lower <= u'f' ? static_cast<char>(lower - u'a' + 10) : static_cast<char>(-1);
+}
+
+std::u16string path_of(std::u16string_view address) {
+    static constexpr std::u16string_view scheme = u"file://";
+    if (!address.starts_with(scheme)) return std::u16string(address);
+    const std::string bytes = to_utf8(address.substr(scheme.size()));
+    std::string path;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const auto digit = [&](std::size_t ahead) {
+            return i + ahead < bytes.size() ? hexadecimal(static_cast<unsigned char>(bytes[i + ahead])) : char{-1};
+        };
+        if (bytes[i] == '%' && digit(1) >= 0 && digit(2) >= 0) {
+            path += static_cast<char>(digit(1) * 16 + digit(2));
+            i += 2;
+        } else {
+            path += bytes[i];
+        }
+    }
+    return from_utf8(path);
+}
+
+class ToExcel {
+  public:
+    ToExcel(const FunctionNames& names, std::u16string_view formula) : names_(names), in_(formula) {}
+
+    std::u16string run() {
+        while (!in_.at_end()) step();
+        return in_.take_result();
+    }
+
+  private:
+    void step() {
+        const char16_t c = in_.here();
+        if (c == u'{' || c == u'}') {
+            in_array_ = c == u'{';
+            in_.put(in_.take());
+        } else if (c == u'[') {
+            copy_brackets();
+        } else if (c == u';' || c == u'~') {
+            in_.take();
+            in_.put(u',');
+        } else if (c == u'|' && in_array_) {
+            in_.take();
+            in_.put(u';');
+        } else if (c == u'!') {
+            in_.take();
+            in_.put(u' ');
+        } else if (!placed_reference() && !reference({}) && !in_.copy_constant()) {
+            word();
+        }
+    }
+
+    // Columns of a table: only the separators differ.
+    void copy_brackets() {
+        int depth = 0;
+        do {
+            const char16_t c = in_.take();
+            if (c == u'[') ++depth;
+            if (c == u']') --depth;
+            in_.put(c == u';' ? u',' : c);
+        } while (depth > 0 && !in_.at_end());
+    }
+
+    // Reads [$]Sheet. or [$]'a sheet'. or 'file:///a book'#[$]Sheet. or #REF!. ; moves only when it is there.
+    Place take_place() {
+        const std::size_t start = in_.position();
+        Place place;
+        if (in_.here() == u'\'') {
+            std::size_t end = start;
+            std::u16string name = take_quoted(in_.text(), end);
+            if (end < in_.text().size() && in_.text()[end] == u'#') {
+                place.book = std::move(name);
+                place.any = true;
+                in_.position() = end + 1;
+            }
+        }
+        const std::size_t sheet_start = in_.position();
+        in_.take_if(u"$");
+        if (in_.here() == u'\'') {
+            place.sheet = take_quoted(in_.text(), in_.position());
+            if (in_.take_if(u".")) return place.any = true, place;
+        } else if (in_.take_if(u"#REF!.")) {
+            place.sheet_deleted = place.any = true;
+            return place;
+        } else {
+            // In a name dots may stand too, so the sheet ends at the last dot that a reference can follow.
+            const std::size_t word_start = in_.position();
+            const bool fixed = word_start != sheet_start;
+            const std::u16string_view word = in_.take_word();
+            const std::size_t dot = fixed ? word.find(u'.') : word.rfind(u'.');
+            if (dot != std::u16string_view::npos && dot > 0 && (fixed || reference_follows(word_start + dot + 1))) {
+                place.sheet = word.substr(0, dot);
+                place.any = true;
+                in_.position() = word_start + dot + 1;
+                return place;
+            }
+        }
+        place.sheet.clear();
+        in_.position() = place.any ? sheet_start : start;
+        return place;
+    }
+
+    bool reference_follows(std::size_t position) const {
+        const auto corner = take_corner(in_.text(), position);
+        if (!corner) return false;
+        return corner->deleted || corner->is_cell() || (position < in_.text().size() && in_.text()[position] == u':');
+    }
+
+    bool placed_reference() {
+        const Place place = take_place();
+        if (!place.any) return false;
+        if (reference(place)) return true;
+        put_place(place, {});
+        in_.put(in_.take_word());
+        return true;
+    }
+
+    bool reference(const Place& place) {
+        const std::size_t start = in_.position();
+        const auto first = take_corner(in_.text(), in_.position());
+        if (!first) return false;
+        if (in_.take_if(u":")) {
+            const std::size_t behind_colon = in_.position();
+            const Place second_place = take_place();
+            const auto last = take_corner(in_.text(), in_.position());
+            if (last && (first->deleted || last->deleted || same_kind(*first, *last))) {
+                put_place(place, second_place.sheet);
+                // A row of sheets over one cell.
+                const bool one_cell = !second_place.sheet.empty() && corner_text(*first) == corner_text(*last);
+                in_.put(one_cell ? corner_text(*first) : range_text(*first, *last));
+                return true;
+            }
+            in_.position() = behind_colon - 1;
+        }
+        if (!first->deleted && !first->is_cell()) {
+            in_.position() = start;
+            return false;
+        }
+        // A lone #REF! is an error constant, which copies itself.
+        put_place(place, {});
+        in_.put(corner_text(*first));
+        return true;
+    }
+
+    static bool same_kind(const Corner& first, const Corner& last) {
+        return (first.column < 0) == (last.column < 0) && (first.row < 0) == (last.row < 0);
+    }
+
+    void put_place(const Place& place, std::u16string_view last_sheet) {
+        if (!place.any) return;
+        if (place.sheet_deleted) {
+            in_.put(u"#REF!");
+            return;
+        }
+        std::u16string text;
+        if (!place.book.empty()) {
+            const std::u16string path = path_of(place.book);
+            const std::size_t name = path.rfind(u'/') + 1;
+            text = place.sheet.empty() ? path : path.substr(0, name) + u"[" + path.substr(name) + u"]";
+        }
+        text += place.sheet;
+        bool quotes = !place.book.empty() || needs_quotes(place.sheet);
+        if (!last_sheet.empty() && last_sheet != place.sheet) {
+            quotes = quotes || needs_quotes(last_sheet);
+            text += u":";
+            text += last_sheet;
+        }
+        in_.put(quotes ? quoted(text) : text);
+        in_.put(u'!');
+    }
+
+    // A function, a name, or a single character that both notations share.
+    void word() {
+        const std::u16string_view word = in_.take_word();
+        if (word.empty()) {
+            in_.put(in_.take());
+            return;
+        }
+        if (in_.here() != u'(') {
+            in_.put(word);
+            return;
+        }
+        const std::u16string name = to_upper(word);
+        if ((name == u"TRUE" || name == u"FALSE") && in_.take_if(u"()")) {
+            in_.put(name);
+            return;
+        }
+        static constexpr std::u16string_view add_in = u"_XLL.";
+        const auto known = names_.excel_by_calc.find(name);
+        if (known != names_.excel_by_calc.end()) {
+            in_.put(known->second);
+        } else {
+            in_.put(name.starts_with(add_in) ? word.substr(add_in.size()) : word);
+        }
+    }
+
+    const FunctionNames& names_;
+    Scanner in_;
+    bool in_array_ = false;
+};
+
+}  // namespace
+
+std::u16string FormulaTranslator::to_excel(std::u16string_view formula) const {
+    if (formula.starts_with(u"{=") && formula.ends_with(u"}")) formula = formula.substr(1, formula.size() - 2);
+    return ToExcel(names_, formula).run();
+}
+
+}  // namespace qor::calc

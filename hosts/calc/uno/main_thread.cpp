@@ -1,0 +1,51 @@
+#include "hosts/calc/uno/main_thread.hpp"
+
+#include <unistd.h>
+
+#include <com/sun/star/awt/AsyncCallback.hpp>
+#include <com/sun/star/awt/XCallback.hpp>
+#include <cppuhelper/implbase1.hxx>
+#include <exception>
+#include <future>
+#include <rtl/ref.hxx>
+
+namespace qor::calc {
+namespace {
+
+namespace css = com::sun::star;
+
+class Callback final : public cppu::WeakImplHelper1<css::awt::XCallback> {
+  public:
+    explicit Callback(const std::function<void()>& work) : work_(work) {}
+
+    std::future<void> finished() { return finished_.get_future(); }
+
+    void SAL_CALL notify(const css::uno::Any&) override {
+        try {
+            work_();
+            finished_.set_value();
+        } catch (...) {
+            finished_.set_exception(std::current_exception());
+        }
+    }
+
+  private:
+    const std::function<void()>& work_;  // the caller waits, so it outlives the call
+    std::promise<void> finished_;
+};
+
+}  // namespace
+
+void run_on_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context,
+                        const std::function<void()>& work) {
+    if (gettid() == getpid()) {
+        work();
+        return;
+    }
+    const rtl::Reference<Callback> callback(new Callback(work));
+    std::future<void> finished = callback->finished();
+    css::awt::AsyncCallback::create(context)->addCallback(callback.get(), css::uno::Any());
+    finished.get();
+}
+
+}  // namespace qor::calc

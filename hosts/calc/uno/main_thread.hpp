@@ -1,0 +1,13 @@
+#pragma once
+
+#include <com/sun/star/uno/XComponentContext.hpp>
+#include <functional>
+
+namespace qor::calc {
+
+// Runs the work on the office's main thread, where documents and windows may be touched, and waits for its end. What
+// the work throws is thrown here. Called on the main thread, it runs the work at once.
+void run_on_main_thread(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
+                        const std::function<void()>& work);
+
+}  // namespace qor::calc
