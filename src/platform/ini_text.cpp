@@ -1,7 +1,5 @@
 #include "platform/ini_text.hpp"
 
-#include <fmt/format.h>
-
 #include <cstdint>
 #include <iterator>
 #include <optional>
@@ -35,7 +33,13 @@ const Escape* escape_of(char16_t letter) {
     return nullptr;
 }
 
-std::optional<char16_t> hexadecimal(std::u16string_view text, std::size_t position, std::size_t digits) {
+std::string hexadecimal_escape(std::string introducer, char32_t number, int digits) {
+    for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
+        introducer += "0123456789ABCDEF"[(number >> shift) & 0xF];
+    return introducer;
+}
+
+std::optional<char16_t> from_hexadecimal(std::u16string_view text, std::size_t position, std::size_t digits) {
     if (position > text.size() || digits > text.size() - position) return std::nullopt;
     std::uint32_t number = 0;
     for (const char16_t digit : text.substr(position, digits)) {
@@ -90,8 +94,7 @@ std::string escape_value(std::u16string_view value) {
     return escaped(value, [](char32_t code_point, bool first, bool last) -> std::string {
         if (code_point == U' ' && !first && !last) return {};
         if (const Escape* escape = escape_for(code_point)) return {'\\', static_cast<char>(escape->letter)};
-        if (is_control(code_point) || is_surrogate(code_point))
-            return fmt::format("\\u{:04X}", static_cast<std::uint32_t>(code_point));
+        if (is_control(code_point) || is_surrogate(code_point)) return hexadecimal_escape("\\u", code_point, 4);
         return {};
     });
 }
@@ -100,7 +103,7 @@ std::u16string unescape_value(std::string_view line) {
     return unescaped(line, u'\\', [](std::u16string_view text, std::size_t position) -> std::optional<Unescaped> {
         if (position + 1 == text.size()) return std::nullopt;
         if (text[position + 1] == u'u') {
-            const auto unit = hexadecimal(text, position + 2, 4);
+            const auto unit = from_hexadecimal(text, position + 2, 4);
             return unit ? std::optional(Unescaped{*unit, 6}) : std::nullopt;
         }
         const Escape* escape = escape_of(text[position + 1]);
@@ -110,18 +113,18 @@ std::u16string unescape_value(std::string_view line) {
 
 std::string escape_name(std::u16string_view name) {
     return escaped(name, [](char32_t code_point, bool first, bool last) -> std::string {
-        if (is_surrogate(code_point)) return fmt::format("%u{:04X}", static_cast<std::uint32_t>(code_point));
+        if (is_surrogate(code_point)) return hexadecimal_escape("%u", code_point, 4);
         const bool forbidden = is_control(code_point) || code_point == U'=' || code_point == U'[' ||
                                code_point == U']' || code_point == U'%' || (code_point == U'#' && first) ||
                                (code_point == U' ' && (first || last));
-        return forbidden ? fmt::format("%{:02X}", static_cast<std::uint32_t>(code_point)) : std::string();
+        return forbidden ? hexadecimal_escape("%", code_point, 2) : std::string();
     });
 }
 
 std::u16string unescape_name(std::string_view written) {
     return unescaped(written, u'%', [](std::u16string_view text, std::size_t position) -> std::optional<Unescaped> {
         const bool wide = position + 1 < text.size() && text[position + 1] == u'u';
-        const auto unit = wide ? hexadecimal(text, position + 2, 4) : hexadecimal(text, position + 1, 2);
+        const auto unit = wide ? from_hexadecimal(text, position + 2, 4) : from_hexadecimal(text, position + 1, 2);
         return unit ? std::optional(Unescaped{*unit, wide ? 6U : 3U}) : std::nullopt;
     });
 }
