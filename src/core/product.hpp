@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+// The facts of this build, as QTitle, QCompany, QMajor and QMinor tell them and the About box shows them.
+namespace qor::product {
+
+inline constexpr std::u16string_view title = u"QOR Plus";
+inline constexpr std::u16string_view company = u"Ombrel";
+inline constexpr std::int32_t major_version = 2;
+inline constexpr std::int32_t minor_version = 6;
+inline constexpr std::int32_t revision = 5;
+
+// Major and minor: each pair has settings of its own.
+inline constexpr std::u16string_view version = u"2.6";
+
+}  // namespace qor::product
