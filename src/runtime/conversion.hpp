@@ -8,14 +8,18 @@
 namespace qor {
 
 // Conversion of a host value into one kind, by the run time's rules. They raise 13 (no such value), 6 (out of range),
-// 94 (Null), 449 (an argument that was left out) and 424 or 91 (an object that is none).
-bool to_boolean(const Variant& value);
+// 94 (Null), 449 (an argument that was left out), 91 (Nothing) and 438 (an object, which has no value of its own here).
+// True counts as -1. Text is a number as parse_number reads it.
+bool to_boolean(const Variant& value);          // "True" and "False" in any case, too
 std::int16_t to_integer(const Variant& value);  // rounds half to even, as to_long does
 std::int32_t to_long(const Variant& value);
 float to_single(const Variant& value);
 double to_double(const Variant& value);
-Currency to_currency(const Variant& value);
-Date to_date(const Variant& value);
+Currency to_currency(const Variant& value);  // to ten-thousandths, half to even
+Date to_date(const Variant& value);          // 1 January 100 to 31 December 9999; text must be a serial number
+
+// Numbers in 15 significant digits (singles in 7) with a decimal point, dates as "3/15/2004 1:05:00 PM" without a time
+// that is midnight or a day that is 30 December 1899, booleans as "True" and "False", errors as "Error 2007".
 std::u16string to_text(const Variant& value);
 
 }  // namespace qor

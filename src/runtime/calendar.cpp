@@ -1,0 +1,39 @@
+#include "runtime/calendar.hpp"
+
+#include <cmath>
+
+namespace qor {
+namespace {
+
+using namespace std::chrono;
+
+constexpr sys_days day_zero{year{1899} / December / 30};
+constexpr double seconds_per_day = 86400;
+
+}  // namespace
+
+bool is_in_calendar(Date date) noexcept {
+    return std::trunc(date.serial) >= first_serial && std::trunc(date.serial) <= last_serial;
+}
+
+CivilTime to_civil(Date date) {
+    if (!is_in_calendar(date)) throw Error(ErrorNumber::overflow);
+    double day = std::trunc(date.serial);
+    // The fraction is the time of day on both sides of 0.
+    double second = std::round(std::abs(date.serial - day) * seconds_per_day);
+    if (second == seconds_per_day) {
+        second = 0;
+        ++day;
+        if (day > last_serial) throw Error(ErrorNumber::overflow);
+    }
+    const sys_days moment = day_zero + days{static_cast<int>(day)};
+    return {moment, weekday{moment}, hh_mm_ss{seconds{static_cast<int>(second)}}};
+}
+
+Date to_date(year_month_day day, seconds time_of_day) {
+    const auto serial = static_cast<double>((sys_days{day} - day_zero).count());
+    const double fraction = static_cast<double>(time_of_day.count()) / seconds_per_day;
+    return {serial < 0 ? serial - fraction : serial + fraction};
+}
+
+}  // namespace qor

@@ -1,0 +1,235 @@
+#include "runtime/number_text.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace qor {
+namespace {
+
+constexpr bool is_blank(char16_t c) {
+    return c == u' ' || (c >= u'\t' && c <= u'\r');
+}
+
+constexpr bool is_digit(char16_t c) {
+    return c >= u'0' && c <= u'9';
+}
+
+constexpr char16_t upper(char16_t c) {
+    return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
+}
+
+class Reader {
+  public:
+    explicit Reader(std::u16string_view text) : rest_(text) {}
+
+    bool at_end() const { return rest_.empty(); }
+    bool at_digit() const { return !at_end() && is_digit(rest_.front()); }
+    bool at(std::u16string_view choices) const {
+        return !at_end() && choices.find(upper(rest_.front())) != std::u16string_view::npos;
+    }
+    char16_t take() {
+        const char16_t c = rest_.front();
+        rest_.remove_prefix(1);
+        return c;
+    }
+    std::optional<char16_t> take_if(std::u16string_view choices) {
+        if (!at(choices)) return std::nullopt;
+        return upper(take());
+    }
+    void skip_blanks() {
+        while (!at_end() && is_blank(rest_.front())) take();
+    }
+
+  private:
+    std::u16string_view rest_;
+};
+
+// A number without its decoration: the value is ±digits × 10^exponent.
+struct Decimal {
+    bool negative = false;
+    std::string digits;  // never empty; no point among them
+    int exponent = 0;
+};
+
+[[noreturn]] void mismatch() {
+    throw Error(ErrorNumber::type_mismatch);
+}
+
+int parse_exponent(Reader& reader) {
+    constexpr int beyond_every_number = 1'000'000;
+    const bool negative = reader.take_if(u"+-") == u'-';
+    if (!reader.at_digit()) mismatch();
+    int exponent = 0;
+    while (reader.at_digit()) exponent = std::min(exponent * 10 + (reader.take() - u'0'), beyond_every_number);
+    return negative ? -exponent : exponent;
+}
+
+Decimal parse_decimal(std::u16string_view text) {
+    Decimal number;
+    Reader reader(text);
+    reader.skip_blanks();
+    const bool parenthesis = reader.take_if(u"(").has_value();
+    const std::optional<char16_t> sign = parenthesis ? std::nullopt : reader.take_if(u"+-");
+    number.negative = parenthesis || sign == u'-';
+    reader.skip_blanks();
+    while (reader.at_digit() || (!number.digits.empty() && reader.at(u","))) {
+        const char16_t c = reader.take();
+        if (c != u',') number.digits += static_cast<char>(c);
+    }
+    if (reader.take_if(u".")) {
+        while (reader.at_digit()) {
+            number.digits += static_cast<char>(reader.take());
+            --number.exponent;
+        }
+    }
+    if (number.digits.empty()) mismatch();
+    if (reader.take_if(u"ED")) number.exponent += parse_exponent(reader);
+    reader.skip_blanks();
+    if (parenthesis) {
+        if (!reader.take_if(u")")) mismatch();
+    } else if (!sign) {
+        number.negative = reader.take_if(u"+-") == u'-';
+    }
+    reader.skip_blanks();
+    if (!reader.at_end()) mismatch();
+    return number;
+}
+
+// The literal's value, nothing if the text is none.
+std::optional<double> parse_literal(std::u16string_view text) {
+    Reader reader(text);
+    reader.skip_blanks();
+    if (!reader.take_if(u"&")) return std::nullopt;
+    const std::optional<char16_t> mark = reader.take_if(u"HO");
+    if (!mark) mismatch();
+    const std::u16string_view digit_choices = mark == u'H' ? u"0123456789ABCDEF" : u"01234567";
+    if (!reader.at(digit_choices)) mismatch();
+    std::uint64_t bits = 0;
+    while (const std::optional<char16_t> digit = reader.take_if(digit_choices)) {
+        bits = bits * digit_choices.size() + digit_choices.find(*digit);
+        if (bits > 0xFFFF'FFFF) throw Error(ErrorNumber::overflow);
+    }
+    const bool wide = reader.take_if(u"&").has_value() || bits > 0xFFFF;
+    reader.skip_blanks();
+    if (!reader.at_end()) mismatch();
+    return wide ? static_cast<std::int32_t>(bits) : static_cast<std::int16_t>(bits);
+}
+
+double to_float(const Decimal& number) {
+    const std::string text = number.digits + 'e' + std::to_string(number.exponent);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        const auto leading_zeros = static_cast<int>(number.digits.find_first_not_of('0'));
+        const int magnitude = static_cast<int>(number.digits.size()) - leading_zeros + number.exponent;
+        if (magnitude > 0) throw Error(ErrorNumber::overflow);
+        value = 0;
+    }
+    return number.negative ? -value : value;
+}
+
+std::u16string widened(std::string_view ascii) {
+    return {ascii.begin(), ascii.end()};
+}
+
+// From "d.ddde±xx" in so many digits.
+template <int significant_digits, class Float>
+std::u16string general_text(Float value) {
+    if (std::isnan(value)) return std::signbit(value) ? u"-1.#IND" : u"1.#QNAN";
+    if (std::isinf(value)) return value < 0 ? u"-1.#INF" : u"1.#INF";
+    if (value == 0) return u"0";
+
+    std::array<char, 40> buffer;
+    const char* const begin = buffer.data();
+    const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                          std::chars_format::scientific, significant_digits - 1)
+                                .ptr;
+    const char* const exponent_mark = std::find(begin, end, 'e');
+    int exponent = 0;
+    std::from_chars(exponent_mark + (exponent_mark[1] == '+' ? 2 : 1), end, exponent);
+    std::string digits(1, *begin);
+    digits.append(begin + 2, exponent_mark);
+    digits.erase(digits.find_last_not_of('0') + 1);
+
+    const std::string sign = value < 0 ? "-" : "";
+    const auto count = static_cast<int>(digits.size());
+    if (exponent < -4 || exponent >= significant_digits) {
+        if (count > 1) digits.insert(1, 1, '.');
+        const std::string power = std::to_string(std::abs(exponent));
+        return widened(sign + digits + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power);
+    }
+    if (exponent < 0) {
+        digits.insert(0, static_cast<std::size_t>(-exponent - 1), '0');
+        return widened(sign + "0." + digits);
+    }
+    const int whole_count = exponent + 1;
+    if (count <= whole_count) {
+        digits.append(static_cast<std::size_t>(whole_count - count), '0');
+    } else {
+        digits.insert(static_cast<std::size_t>(whole_count), 1, '.');
+    }
+    return widened(sign + digits);
+}
+
+}  // namespace
+
+double parse_number(std::u16string_view text) {
+    if (const std::optional<double> literal = parse_literal(text)) return *literal;
+    return to_float(parse_decimal(text));
+}
+
+Currency parse_currency(std::u16string_view text) {
+    if (const std::optional<double> literal = parse_literal(text)) {
+        return {static_cast<std::int64_t>(*literal) * 10'000};
+    }
+    const Decimal number = parse_decimal(text);
+    const std::size_t leading_zeros = number.digits.find_first_not_of('0');
+    if (leading_zeros == std::string::npos) return {};
+    const std::string_view digits = std::string_view(number.digits).substr(leading_zeros);
+    const int whole_count = static_cast<int>(digits.size()) + number.exponent + 4;
+    if (whole_count < 0) return {};
+    if (whole_count > 19) throw Error(ErrorNumber::overflow);
+
+    const auto count = static_cast<std::size_t>(whole_count);
+    std::uint64_t magnitude = 0;
+    for (std::size_t place = 0; place < count; ++place) {
+        magnitude = magnitude * 10 + (place < digits.size() ? static_cast<std::uint64_t>(digits[place] - '0') : 0);
+    }
+    if (count < digits.size()) {
+        const std::string_view rest = digits.substr(count);
+        const bool tie = rest.front() == '5' && rest.find_first_not_of('0', 1) == std::string_view::npos;
+        if (tie ? magnitude % 2 == 1 : rest.front() >= '5') ++magnitude;
+    }
+    constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
+    if (magnitude > most + (number.negative ? 1 : 0)) throw Error(ErrorNumber::overflow);
+    return {static_cast<std::int64_t>(number.negative ? 0 - magnitude : magnitude)};
+}
+
+std::u16string number_text(double value) {
+    return general_text<15>(value);
+}
+
+std::u16string number_text(float value) {
+    return general_text<7>(value);
+}
+
+std::u16string number_text(Currency value) {
+    const bool negative = value.ten_thousandths < 0;
+    const auto magnitude = negative ? 0 - static_cast<std::uint64_t>(value.ten_thousandths)
+                                    : static_cast<std::uint64_t>(value.ten_thousandths);
+    std::string text(negative ? 1 : 0, '-');
+    text += std::to_string(magnitude / 10'000);
+    if (magnitude % 10'000 != 0) {
+        std::string fraction = std::to_string(magnitude % 10'000 + 10'000);
+        fraction.front() = '.';
+        fraction.erase(fraction.find_last_not_of('0') + 1);
+        text += fraction;
+    }
+    return widened(text);
+}
+
+}  // namespace qor
