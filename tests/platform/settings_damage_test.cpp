@@ -1,11 +1,12 @@
 #include <doctest/doctest.h>
-#include <fcntl.h>
+#include <rapidcheck.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <string>
+#include <vector>
 
 #include "child_process.hpp"
 #include "platform/ini_settings_store.hpp"
@@ -53,6 +54,32 @@ TEST_CASE_FIXTURE(Fixture, "a damaged file reads as empty and is kept when the n
         CHECK(content_of(file) == "[Options]\nb=2\n");
     }
     CHECK(folder.names() == std::set<std::string>{"settings.ini", "settings.ini.bad", "settings.ini.lock"});
+}
+
+TEST_CASE_FIXTURE(Fixture, "whatever the file holds, a value can be written and nothing is lost") {
+    const auto part = rc::gen::element<std::string>("[A]", "[a\\B]", "[", "]", "k", "n=1", "k = \\u0041\\", "=", "#",
+                                                    " ", "\n", "\n", "\r\n", "\t", "\xEF\xBB\xBF", "\xC3\xA9", "\xC3",
+                                                    "%41", "[de]", "Encoding=", ";", std::string(1, '\0'));
+    int damaged = 0;
+    int read = 0;
+    CHECK(rc::check([&] {
+        std::string before;
+        for (const auto& text : *rc::gen::container<std::vector<std::string>>(part)) before += text;
+        put(file, before);
+        std::filesystem::remove(bad);
+        const auto value = store.read(u"A", u"k");
+        RC_ASSERT(store.write(u"New", u"n", u"v"));
+        RC_ASSERT(store.read(u"New", u"n") == u"v"s);
+        RC_ASSERT(store.read(u"A", u"k") == value);
+        if (std::filesystem::exists(bad)) {
+            RC_ASSERT(content_of(bad) == before);
+            ++damaged;
+        } else {
+            ++read;
+        }
+    }));
+    CHECK(damaged > 0);
+    CHECK(read > 0);
 }
 
 TEST_CASE_FIXTURE(Fixture, "a file above 16 MB is damaged, and none is written") {
