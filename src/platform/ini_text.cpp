@@ -1,5 +1,6 @@
 #include "platform/ini_text.hpp"
 
+#include <algorithm>
 #include <cstdint>
 #include <iterator>
 #include <optional>
@@ -21,16 +22,10 @@ struct Escape {
 
 constexpr Escape value_escapes[] = {{u'n', u'\n'}, {u'r', u'\r'}, {u't', u'\t'}, {u's', u' '}, {u'\\', u'\\'}};
 
-const Escape* escape_for(char32_t meaning) {
-    for (const Escape& escape : value_escapes)
-        if (escape.meaning == meaning) return &escape;
-    return nullptr;
-}
-
-const Escape* escape_of(char16_t letter) {
-    for (const Escape& escape : value_escapes)
-        if (escape.letter == letter) return &escape;
-    return nullptr;
+template <typename Unit, typename Member>
+const Escape* find_escape(Unit unit, Member member) {
+    const Escape* found = std::ranges::find(value_escapes, unit, member);
+    return found == std::end(value_escapes) ? nullptr : found;
 }
 
 std::string hexadecimal_escape(std::string introducer, char32_t number, int digits) {
@@ -54,7 +49,7 @@ std::optional<char16_t> from_hexadecimal(std::u16string_view text, std::size_t p
     return static_cast<char16_t>(number);
 }
 
-// `write(code_point, at_either_end)` gives the escape, or an empty text for what stays as it is.
+// `write(code_point, first, last)` gives the escape, or an empty text for what stays as it is.
 template <typename Write>
 std::string escaped(std::u16string_view text, Write write) {
     std::string result;
@@ -93,7 +88,8 @@ std::u16string unescaped(std::string_view written, char16_t introducer, Parse pa
 std::string escape_value(std::u16string_view value) {
     return escaped(value, [](char32_t code_point, bool first, bool last) -> std::string {
         if (code_point == U' ' && !first && !last) return {};
-        if (const Escape* escape = escape_for(code_point)) return {'\\', static_cast<char>(escape->letter)};
+        if (const Escape* escape = find_escape(code_point, &Escape::meaning))
+            return {'\\', static_cast<char>(escape->letter)};
         if (is_control(code_point) || is_surrogate(code_point)) return hexadecimal_escape("\\u", code_point, 4);
         return {};
     });
@@ -106,7 +102,7 @@ std::u16string unescape_value(std::string_view line) {
             const auto unit = from_hexadecimal(text, position + 2, 4);
             return unit ? std::optional(Unescaped{*unit, 6}) : std::nullopt;
         }
-        const Escape* escape = escape_of(text[position + 1]);
+        const Escape* escape = find_escape(text[position + 1], &Escape::letter);
         return escape ? std::optional(Unescaped{escape->meaning, 2}) : std::nullopt;
     });
 }
