@@ -1,0 +1,113 @@
+#include "tree/ctlTree.hpp"
+
+#include "automation/member_names.hpp"
+#include "core/MMain.hpp"
+#include "core/boolean_option.hpp"
+#include "runtime/conversion.hpp"
+
+namespace qor {
+namespace {
+
+constexpr std::int32_t sheet_visible = -1;
+constexpr std::int32_t yellow = 65535;
+constexpr std::int32_t red = 255;
+constexpr std::int32_t green = 65280;
+
+// The host's file formats of add-ins, which the tree never shows.
+bool is_add_in(std::int32_t file_format) {
+    return file_format == 18 || file_format == 26;
+}
+
+std::vector<Variant> items(const Object& owner, const MemberName& collection) {
+    std::vector<Variant> found;
+    attempt([&] { found = owner.get(collection).object().items(); });
+    return found;
+}
+
+// False where the host does not say.
+bool is_true(const Variant& object, const MemberName& property) {
+    bool answer = false;
+    attempt([&] { answer = to_boolean(object.get(property)); });
+    return answer;
+}
+
+}  // namespace
+
+ctlTree::ctlTree(Form& form, std::u16string name) : treQOR(form, std::move(name)) {
+    treQOR.on_mouse_move = [this](const Pointer& pointer) { hit_test(pointer); };
+    treQOR.on_node_click = [this](TreeNode& node) { node_click(node); };
+    set_check_width();
+}
+
+void ctlTree::LoadExcel() {
+    attempt([&] { ShowHiddenWorkbooks = boolean_option(u"chkT3ShowHiddenWorkbooks", u"0"); });
+    attempt([&] { ShowHiddenWorksheets = boolean_option(u"chkT4ShowHiddenWorksheets", u"0"); });
+    treQOR.clear();
+    TreeNode& root = treQOR.add(nullptr, Relationship::child, u"ROOT", u"Excel Workbook Windows", unchecked);
+    for (const Variant& workbook : items(gExcel, names::Workbooks)) load_workbook(workbook, root);
+    set_check_width();
+    root.set_expanded(true);
+}
+
+void ctlTree::load_workbook(const Variant& workbook, TreeNode& root) {
+    std::int32_t file_format = 0;
+    attempt([&] { file_format = to_long(workbook.get(names::FileFormat)); });
+    if (is_add_in(file_format)) return;
+    for (const Variant& window : items(workbook, names::Windows)) load_window(window, workbook, root);
+}
+
+void ctlTree::load_window(const Variant& window, const Variant& workbook, TreeNode& root) {
+    bool visible = true;
+    attempt([&] { visible = to_boolean(window.get(names::Visible)); });
+    if (!visible && !ShowHiddenWorkbooks) return;
+
+    TreeNode* node = nullptr;
+    attempt([&] {
+        const std::u16string caption = to_text(window.get(names::Caption));
+        node = &treQOR.add(&root, Relationship::child, caption, caption, unchecked);
+    });
+    if (!node) return;  // a second window of the same caption, and no place for its sheets
+
+    attempt([&] { node->set_tag(workbook.get(names::Name)); });
+    if (!visible) node->set_italic(true);
+    if (is_true(workbook, names::ReadOnly)) node->set_back_color(yellow);
+    for (const Variant& worksheet : items(workbook, names::Worksheets)) load_worksheet(worksheet, *node);
+}
+
+void ctlTree::load_worksheet(const Variant& worksheet, TreeNode& window_node) {
+    std::int32_t visible = sheet_visible;
+    attempt([&] { visible = to_long(worksheet.get(names::Visible)); });
+    if (visible != sheet_visible && !ShowHiddenWorksheets) return;
+
+    TreeNode* node = nullptr;
+    attempt([&] {
+        const std::u16string name = to_text(worksheet.get(names::Name));
+        node = &treQOR.add(&window_node, Relationship::child, window_node.text() + u'*' + name, name, unchecked);
+    });
+    if (!node) return;
+
+    if (visible != sheet_visible) node->set_italic(true);
+    if (is_true(worksheet, names::ProtectContents)) node->set_back_color(red);
+    if (is_true(worksheet, names::ProtectDrawingObjects)) node->set_fore_color(green);
+    if (is_true(worksheet, names::ProtectScenarios)) node->set_bold(true);
+}
+
+std::int32_t ctlTree::CountWorkbooks(std::u16string_view WorkbookName) const {
+    std::int32_t count = 0;
+    for (std::size_t index = 1; index <= treQOR.count(); ++index) {
+        const auto* tag = treQOR.node(index).tag().get_if<std::u16string>();
+        if (tag && *tag == WorkbookName) ++count;
+    }
+    return count;
+}
+
+std::int32_t ctlTree::CountCheckBoxes(std::int32_t Level) const {
+    std::int32_t count = 0;
+    for (std::size_t index = 1; index <= treQOR.count(); ++index) {
+        const TreeNode& node = treQOR.node(index);
+        if (node.level() == Level && node.image() == checked) ++count;
+    }
+    return count;
+}
+
+}  // namespace qor

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <span>
+
+#include "ui/form.hpp"
+#include "ui/tree_view.hpp"
+
+namespace qor {
+
+// The tree of open workbook windows (level 2) and their worksheets (level 3) under one root, with a check box on every
+// node: its picture, 1 unchecked or 2 checked. The tree is a snapshot; only LoadExcel looks at the host again.
+// A node of level 2 is a window: a workbook with two windows has two, both tagged with the workbook's name.
+// No member raises: a statement that the host refuses is passed over, and the next one runs.
+class ctlTree {
+  public:
+    static constexpr int unchecked = 1;
+    static constexpr int checked = 2;
+
+    ctlTree(Form& form, std::u16string name);
+
+    TreeView treQOR;
+
+    // Empties the tree and fills it from gExcel.
+    void LoadExcel();
+
+    // How many windows of the workbook the tree shows. The name is compared with its case.
+    std::int32_t CountWorkbooks(std::u16string_view WorkbookName) const;
+    // How many nodes of that level are checked.
+    std::int32_t CountCheckBoxes(std::int32_t Level) const;
+
+    // Writes the Worksheet Summary of the checked worksheets, with these headings as its columns.
+    void WkSum(std::span<const std::u16string> Fields);
+
+    // The form is to close.
+    Event<bool> RequestClose;
+    // After every click into a check box: whether anything is checked.
+    Event<bool> CheckStateChanged;
+    // After each item of a batch operation: done, total.
+    Event<std::int32_t, std::int32_t> Progress;
+
+  private:
+    void load_workbook(const Variant& workbook, TreeNode& root);
+    void load_window(const Variant& window, const Variant& workbook, TreeNode& root);
+    void load_worksheet(const Variant& worksheet, TreeNode& window_node);
+
+    void set_check_width();
+    void hit_test(const Pointer& pointer);
+    void node_click(TreeNode& node);
+    void propagate(TreeNode& node);
+    void propagate_root(const TreeNode& root);
+    void propagate_window(TreeNode& window_node);
+    void propagate_worksheet(TreeNode& sheet_node);
+    bool is_window_checked(const TreeNode* except = nullptr) const;
+
+    bool ShowHiddenWorkbooks = false;
+    bool ShowHiddenWorksheets = false;
+    bool PointerOnCheck = false;  // as the last move of the mouse left it
+    std::int32_t CheckWidth = 0;  // twips
+};
+
+}  // namespace qor
