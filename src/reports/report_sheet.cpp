@@ -1,0 +1,132 @@
+#include "reports/report_sheet.hpp"
+
+#include <algorithm>
+#include <ranges>
+#include <vector>
+
+#include "automation/member_names.hpp"
+#include "core/MMain.hpp"
+#include "core/boolean_option.hpp"
+#include "runtime/clock.hpp"
+#include "runtime/conversion.hpp"
+#include "runtime/format_date.hpp"
+
+namespace qor {
+namespace {
+
+constexpr std::int32_t heading_row = 5;
+
+// The host's constants.
+constexpr std::int32_t align_left = -4131;
+constexpr std::int32_t edge_bottom = 9;
+constexpr std::int32_t line_continuous = 1;
+constexpr std::int32_t weight_thin = 2;
+constexpr std::int32_t color_automatic = -4105;
+
+// Adds the workbook or the worksheet that takes the report; either becomes the active one.
+void make_destination() {
+    bool new_workbook = false;
+    attempt([&] { new_workbook = boolean_option(u"chkT5ReportNewWorkbook", u"-1"); });
+    if (new_workbook) {
+        gExcel.get(names::Workbooks).call(names::Add);
+        return;
+    }
+    bool first = false;
+    attempt([&] { first = boolean_option(u"rdoT5ReportLocation0", u"-1"); });
+    const Object worksheets = gExcel.get(names::ActiveWorkbook).get(names::Worksheets);
+    if (first) {
+        worksheets.call(names::Add, named(names::Before, worksheets.get(names::Item, 1)));
+    } else {
+        worksheets.call(names::Add, named(names::After, worksheets.get(names::Item, worksheets.get(names::Count))));
+    }
+}
+
+}  // namespace
+
+ReportSheet::ReportSheet(std::u16string_view title, std::span<const std::u16string> headings) {
+    made_ = attempt(make_destination) == 0;
+    if (!made_) return;
+    write_title_line(1, title, 16, true);
+    write_title_line(2, u"Prepared Date: " + format_date(today(), u"mmmm d, yyyy"), 11, true);
+    std::u16string user_name;
+    if (attempt([&] { user_name = to_text(gExcel.get(names::UserName)); }) == 0) user_name.insert(0, u"Prepared By: ");
+    write_title_line(3, user_name, 10, false);
+    row_ = heading_row;
+    write_headings(headings);
+}
+
+// Text that could not be made is not written; the font is set all the same.
+void ReportSheet::write_title_line(std::int32_t row, std::u16string_view text, double size, bool italic) {
+    row_ = row;
+    if (!text.empty()) attempt([&] { cells(1, 1).put(names::Value, text); });
+    attempt([&] { cells(1, 1).get(names::Font).put(names::Bold, true); });
+    attempt([&] { cells(1, 1).get(names::Font).put(names::Size, size); });
+    attempt([&] { cells(1, 1).get(names::Font).put(names::Italic, italic); });
+}
+
+void ReportSheet::write_headings(std::span<const std::u16string> headings) {
+    const std::vector<std::optional<Variant>> values(headings.begin(), headings.end());
+    write_values(values);
+    const auto set_border = [&](const MemberName& property, std::int32_t value) {
+        for_row(headings.size(),
+                [&](const Object& range) { range.get(names::Borders, edge_bottom).put(property, value); });
+    };
+    set_border(names::LineStyle, line_continuous);
+    set_border(names::Weight, weight_thin);
+    set_border(names::ColorIndex, color_automatic);
+    for_row(headings.size(), [](const Object& range) { range.get(names::Font).put(names::Bold, true); });
+    for_row(headings.size(), [](const Object& range) { range.get(names::Font).put(names::Size, 10.0); });
+}
+
+void ReportSheet::add_record(std::span<const std::optional<Variant>> values) {
+    ++row_;
+    for_row(values.size(), [](const Object& range) { range.put(names::HorizontalAlignment, align_left); });
+    write_values(values);
+}
+
+// Writes each run of neighbouring values at once.
+void ReportSheet::write_values(std::span<const std::optional<Variant>> values) {
+    const auto is_present = [](const std::optional<Variant>& value) { return value.has_value(); };
+    auto begin = std::ranges::find_if(values, is_present);
+    while (begin != values.end()) {
+        const auto end = std::find_if_not(begin, values.end(), is_present);
+        write_run(static_cast<std::size_t>(begin - values.begin()) + 1, {begin, end});
+        begin = std::find_if(end, values.end(), is_present);
+    }
+}
+
+void ReportSheet::write_run(std::size_t first, std::span<const std::optional<Variant>> values) {
+    if (values.size() > 1) {
+        Array array = Array::table(1, values.size());
+        for (std::size_t place = 0; place < values.size(); ++place) array.at(place) = *values[place];
+        if (attempt([&] { cells(first, values.size()).put(names::Value, std::move(array)); }) == 0) return;
+    }
+    for (std::size_t place = 0; place < values.size(); ++place) {
+        attempt([&] { cells(first + place, 1).put(names::Value, *values[place]); });
+    }
+}
+
+const Object& ReportSheet::sheet() {
+    if (!sheet_) sheet_ = gExcel.get(names::ActiveSheet);
+    return sheet_;
+}
+
+// Cells of the current row; columns count from 1.
+Object ReportSheet::cells(std::size_t first_column, std::size_t count) {
+    const auto first = static_cast<std::int32_t>(first_column);
+    const Variant first_cell = sheet().get(names::Cells, row_, first);
+    if (count == 1) return first_cell;
+    const std::int32_t last = first + static_cast<std::int32_t>(count) - 1;
+    return sheet().get(names::Range, first_cell, sheet().get(names::Cells, row_, last));
+}
+
+// Runs the statement once on the row's first `count` cells, or where the host refuses that, on each of them.
+template <class Statement>
+void ReportSheet::for_row(std::size_t count, Statement statement) {
+    if (count == 0 || attempt([&] { statement(cells(1, count)); }) == 0) return;
+    for (std::size_t column = 1; column <= count; ++column) {
+        attempt([&] { statement(cells(column, 1)); });
+    }
+}
+
+}  // namespace qor
