@@ -14,29 +14,6 @@ namespace qor {
 namespace detail {
 
 template <class T>
-T convert(const Variant& value) {
-    if constexpr (std::is_same_v<T, Variant>)
-        return value;
-    else if constexpr (std::is_same_v<T, bool>)
-        return to_boolean(value);
-    else if constexpr (std::is_same_v<T, std::int16_t>)
-        return to_integer(value);
-    else if constexpr (std::is_same_v<T, std::int32_t>)
-        return to_long(value);
-    else if constexpr (std::is_same_v<T, double>)
-        return to_double(value);
-    else if constexpr (std::is_same_v<T, Date>)
-        return to_date(value);
-    else if constexpr (std::is_same_v<T, std::u16string>)
-        return to_text(value);
-    else {
-        static_assert(std::is_same_v<T, Object>, "no conversion to this parameter type");
-        if (value.is_missing()) throw Error(ErrorNumber::argument_not_optional);
-        return value.object();
-    }
-}
-
-template <class T>
 struct OptionalOf : std::false_type {};
 template <class T>
 struct OptionalOf<std::optional<T>> : std::true_type {
@@ -52,9 +29,9 @@ T argument(std::span<Variant> arguments, std::size_t place) {
     const Variant& value = place < arguments.size() ? arguments[place] : missing;
     if constexpr (detail::OptionalOf<T>::value) {
         if (value.is_missing()) return std::nullopt;
-        return detail::convert<typename detail::OptionalOf<T>::type>(value);
+        return convert<typename detail::OptionalOf<T>::type>(value);
     } else {
-        return detail::convert<T>(value);
+        return convert<T>(value);
     }
 }
 

@@ -143,4 +143,9 @@ std::u16string to_text(const Variant& value) {
     return value.visit(ToText{});
 }
 
+Object to_object(const Variant& value) {
+    if (value.is_missing()) throw Error(ErrorNumber::argument_not_optional);
+    return value.object();
+}
+
 }  // namespace qor

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 #include "automation/variant.hpp"
 
@@ -21,5 +22,34 @@ Date to_date(const Variant& value);          // 1 January 100 to 31 December 999
 // Numbers in 15 significant digits (singles in 7) with a decimal point, dates as "3/15/2004 1:05:00 PM" without a time
 // that is midnight or a day that is 30 December 1899, booleans as "True" and "False", errors as "Error 2007".
 std::u16string to_text(const Variant& value);
+
+Object to_object(const Variant& value);  // Nothing is an object; any other value that is none raises 424
+
+// The conversion into a type of C++; a Variant is whatever comes.
+template <class T>
+T convert(const Variant& value) {
+    if constexpr (std::is_same_v<T, Variant>) {
+        return value;
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return to_boolean(value);
+    } else if constexpr (std::is_same_v<T, std::int16_t>) {
+        return to_integer(value);
+    } else if constexpr (std::is_same_v<T, std::int32_t>) {
+        return to_long(value);
+    } else if constexpr (std::is_same_v<T, float>) {
+        return to_single(value);
+    } else if constexpr (std::is_same_v<T, double>) {
+        return to_double(value);
+    } else if constexpr (std::is_same_v<T, Currency>) {
+        return to_currency(value);
+    } else if constexpr (std::is_same_v<T, Date>) {
+        return to_date(value);
+    } else if constexpr (std::is_same_v<T, std::u16string>) {
+        return to_text(value);
+    } else {
+        static_assert(std::is_same_v<T, Object>, "no conversion into this type");
+        return to_object(value);
+    }
+}
 
 }  // namespace qor

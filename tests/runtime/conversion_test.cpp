@@ -103,6 +103,14 @@ TEST_CASE("what is no value raises the run time's numbers") {
     CHECK(raised([] { return to_text(make_object<Thing>()); }) == 438);
 }
 
+TEST_CASE("an object is an object, though it may be Nothing") {
+    const Object thing = make_object<Thing>();
+    CHECK(to_object(thing).is(thing));
+    CHECK_FALSE(to_object(Object()));
+    CHECK(raised([] { return to_object(1); }) == 424);
+    CHECK(raised([] { return to_object(Missing{}); }) == 449);
+}
+
 TEST_CASE("whole numbers round half to even and stay in range") {
     CHECK(to_long(2.5) == 2);
     CHECK(to_long(3.5) == 4);

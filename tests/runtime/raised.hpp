@@ -9,7 +9,7 @@ namespace qor::test {
 // The number of the error that the procedure raises, 0 if it raises none.
 template <class Procedure>
 std::int32_t raised(Procedure&& procedure) {
-    return attempt([&] { static_cast<void>(procedure()); });
+    return attempt([&] { procedure(); });
 }
 
 }  // namespace qor::test
