@@ -1,0 +1,152 @@
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+
+#include "functions/registration_order.hpp"
+#include "functions/registry.hpp"
+#include "platform/text.hpp"
+#include "runtime/compare.hpp"
+#include "tests/runtime/raised.hpp"
+
+using namespace qor;
+
+namespace {
+
+std::map<std::u16string_view, std::int32_t> help_ids_by_rule() {
+    // Ids rise by 5 down a run; these few do not follow on the name before them.
+    const std::map<std::u16string_view, std::int32_t> apart{
+        {u"APT", 100010},        {u"CAGR", 100145},     {u"EBITDA", 100283},     {u"EOQ", 100285},
+        {u"SHARPE", 100778},     {u"SDC", 100780},      {u"HRA", 120000},        {u"EDATEADD", 110005},
+        {u"BETWEEN", 140000},    {u"CELLINFO", 130000}, {u"FORMATNAME", 160000}, {u"WRKBKINFO", 130025},
+        {u"WRKSHTINFO", 130020},
+    };
+    std::map<std::u16string_view, std::int32_t> help_ids;
+    std::int32_t help_id = 0;
+    for (const RegistrationRun& run : registration_runs()) {
+        for (const std::u16string_view name : run.names) {
+            const auto row = apart.find(name);
+            help_id = row == apart.end() ? help_id + 5 : row->second;
+            help_ids[name] = help_id;
+        }
+    }
+    return help_ids;
+}
+
+constexpr ValueKind kind_by_prefix(char16_t prefix) {
+    switch (prefix) {
+        case u'd':
+            return ValueKind::number;
+        case u'l':
+            return ValueKind::whole_number;
+        case u's':
+            return ValueKind::text;
+        case u'b':
+            return ValueKind::boolean;
+        default:
+            return ValueKind::variant;
+    }
+}
+
+}  // namespace
+
+TEST_CASE("the order of registration names 207 functions once") {
+    std::set<std::u16string_view> names;
+    std::size_t count = 0;
+    for (const RegistrationRun& run : registration_runs()) {
+        names.insert(run.names.begin(), run.names.end());
+        count += run.names.size();
+    }
+    CHECK(count == 207);
+    CHECK(names.size() == 207);
+    CHECK((registration_runs().front().names.front() == u"APT"));
+    CHECK((registration_runs().front().names.back() == u"WCapital"));
+    CHECK(registration_runs().front().names.size() == 173);
+}
+
+TEST_CASE("the table stands in the order of registration") {
+    auto function = worksheet_functions().begin();
+    for (const RegistrationRun& run : registration_runs()) {
+        for (const std::u16string_view name : run.names) {
+            if (function == worksheet_functions().end() || function->name != name) continue;
+            CHECK(function->category == run.category);
+            ++function;
+        }
+    }
+    CHECK((function == worksheet_functions().end()));
+}
+
+TEST_CASE("every function carries the help id of its place") {
+    const auto help_ids = help_ids_by_rule();
+    std::set<std::int32_t> seen;
+    for (const Function& function : worksheet_functions()) {
+        CAPTURE(to_utf8(function.name));
+        CHECK(function.help_id == help_ids.at(function.name));
+        CHECK(seen.insert(function.help_id).second);
+    }
+}
+
+TEST_CASE("every function is fit to be shown to a user") {
+    for (const Function& function : worksheet_functions()) {
+        CAPTURE(to_utf8(function.name));
+        CHECK(function.description.starts_with(u"Returns "));
+        CHECK(function.description.ends_with(u'.'));
+        CHECK(function.description.size() <= 255);  // as much as the host's dialog takes
+        CHECK(equal_ignoring_case(function.name, function.member));
+        CHECK_FALSE(function.examples.empty());
+        std::set<std::u16string_view> names;
+        bool optional_before = false;
+        for (const Parameter& parameter : function.parameters) {
+            CAPTURE(to_utf8(parameter.name));
+            CHECK(parameter.name.size() >= 2);
+            CHECK(parameter.kind == kind_by_prefix(parameter.name.front()));
+            CHECK(names.insert(parameter.name).second);
+            CHECK_FALSE((optional_before && !parameter.is_optional()));
+            optional_before = parameter.is_optional();
+        }
+        const bool has_places = !function.parameters.empty() && function.parameters.back().name == u"lDecPlace";
+        CHECK(has_places == (function.rounding != Rounding::none));
+        CHECK((function.parameter_names().size() == function.parameters.size()));
+    }
+}
+
+TEST_CASE("every example comes out") {
+    for (const Function& function : worksheet_functions()) {
+        for (const Example& example : function.examples) {
+            const Variant result = function.invoke(example.arguments);
+            INFO(to_utf8(function.name), " gives ", to_utf8(to_text(result)));
+            CHECK(result.kind() == example.result.kind());
+            CHECK(equals(result, example.result));
+        }
+    }
+}
+
+TEST_CASE("no argument that is a number makes an error leave a function") {
+    const std::vector<Variant> numbers{0, 1, -1, Empty{}, true, 1e308, -1e308, 5e-324, 1e-308, u"7"};
+    for (const Function& function : worksheet_functions()) {
+        CAPTURE(to_utf8(function.name));
+        for (std::size_t first = 0; first < numbers.size(); ++first) {
+            for (std::size_t step = 0; step < numbers.size(); ++step) {
+                std::vector<Variant> arguments;
+                for (std::size_t place = 0; place < function.parameters.size(); ++place) {
+                    const bool is_places = function.parameters[place].name == u"lDecPlace";
+                    arguments.push_back(is_places ? Variant(4) : numbers[(first + step * place) % numbers.size()]);
+                }
+                CHECK(test::raised([&] { function.invoke(arguments); }) == 0);
+            }
+        }
+    }
+}
+
+TEST_CASE("a function is found by its name in any case") {
+    for (const Function& function : worksheet_functions()) {
+        CHECK(find_function(function.name) == &function);
+        CHECK(find_function(to_lower(function.name)) == &function);
+        CHECK(find_function(function.member) == &function);
+    }
+    CHECK(find_function(u"") == nullptr);
+    CHECK(find_function(u"ARAX") == nullptr);
+    CHECK(find_function(u"MACRS") == nullptr);
+}
