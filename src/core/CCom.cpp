@@ -1,0 +1,134 @@
+#include "core/CCom.hpp"
+
+#include <filesystem>
+
+#include "automation/member_names.hpp"
+#include "core/CReg.hpp"
+#include "core/MMain.hpp"
+#include "core/product.hpp"
+#include "core/tool_launch.hpp"
+#include "functions/registration.hpp"
+#include "functions/registry.hpp"
+#include "runtime/bind.hpp"
+
+namespace qor {
+namespace {
+
+using Row = Member<CCom>;
+
+void add_state(std::vector<Row>& rows) {
+    rows.insert(rows.end(), {
+                                field_property<&CCom::QCurrentTab>(u"QCurrentTab", OnError::pass),
+                                field_property<&CCom::QExcelVer>(u"QExcelVer", OnError::pass),
+                                field_property<&CCom::QHelpFile>(u"QHelpFile", OnError::pass),
+                                field_property<&CCom::QHelpFileId>(u"QHelpFileId", OnError::pass),
+                                field_property<&CCom::QThisWrkBkPath>(u"QThisWrkBkPath", OnError::pass),
+                                field_property<&CCom::QWorksheetName>(u"QWorksheetName", OnError::pass),
+                                field_property<&CCom::QTargetAddress>(u"QTargetAddress", OnError::pass),
+                                field_property<&CCom::QDoSelectionChange>(u"QDoSelectionChange", OnError::pass),
+                            });
+}
+
+void add_plain_members(std::vector<Row>& rows) {
+    rows.insert(rows.end(),
+                {
+                    property<&CCom::QTitle>(u"QTitle", {}, OnError::pass),
+                    property<&CCom::QCompany>(u"QCompany", {}, OnError::pass),
+                    property<&CCom::QMajor>(u"QMajor", {}, OnError::pass),
+                    property<&CCom::QMinor>(u"QMinor", {}, OnError::pass),
+                    method<&CCom::QGetSetting>(u"QGetSetting", {u"sSection", u"sKey", u"sDefault"}, OnError::pass),
+                    method<&CCom::QSaveSetting>(u"QSaveSetting", {u"sSection", u"sKey", u"sSetting"}, OnError::pass),
+                    method<&CCom::QOpenHelp>(u"QOpenHelp", {u"objoleEx"}, OnError::pass),
+                    method<&CCom::QSetCurrDir>(u"QSetCurrDir", {u"sSetCurrDir"}, OnError::pass),
+                    method<&CCom::QSetupFunc>(u"QSetupFunc", {u"objoleEx"}, OnError::pass),
+                });
+}
+
+void add_tools(std::vector<Row>& rows) {
+    for (const Tool& tool : tools()) {
+        rows.push_back({.name = tool.member,
+                        .accesses = accesses::callable,
+                        .parameters = {u"objoleEx"},
+                        .invoke = [&tool](CCom& self, Access, std::span<Variant> arguments) -> Variant {
+                            launch(tool, argument<Object>(arguments, 0), self.QHelpFile);
+                            return {};
+                        },
+                        .on_error = OnError::raise});
+    }
+}
+
+void add_functions(std::vector<Row>& rows) {
+    for (const Function& function : worksheet_functions()) {
+        Row row{
+            .name = function.name,
+            .accesses = accesses::callable,
+            .parameters = {},
+            .invoke = [&function](CCom&, Access, std::span<Variant> arguments) { return function.invoke(arguments); }};
+        for (const auto& parameter : function.parameters) row.parameters.push_back(parameter.name);
+        rows.push_back(std::move(row));
+    }
+}
+
+}  // namespace
+
+const MemberTable<CCom>& CCom::members() {
+    static const MemberTable<CCom> table([] {
+        std::vector<Row> rows;
+        add_state(rows);
+        add_plain_members(rows);
+        add_tools(rows);
+        add_functions(rows);
+        return rows;
+    }());
+    return table;
+}
+
+CCom::CCom() {
+    attempt([&] { QDoSelectionChange = to_boolean(QGetSetting(u"Options", u"chkT4ViewCellCommentsUponEntry", u"0")); });
+}
+
+Variant CCom::invoke(const MemberName& name, Access access, Arguments arguments) {
+    return members().invoke(*this, name, access, arguments);
+}
+
+std::u16string CCom::QTitle() const {
+    return std::u16string(product::title);
+}
+std::u16string CCom::QCompany() const {
+    return std::u16string(product::company);
+}
+std::int32_t CCom::QMajor() const {
+    return product::major_version;
+}
+std::int32_t CCom::QMinor() const {
+    return product::minor_version;
+}
+
+std::u16string CCom::QGetSetting(const std::u16string& sSection, const std::u16string& sKey,
+                                 const std::u16string& sDefault) const {
+    return CReg(environment().settings).GetSetting(RootKey::current_user, sSection, sKey, sDefault);
+}
+
+bool CCom::QSaveSetting(const std::u16string& sSection, const std::u16string& sKey,
+                        const std::u16string& sSetting) const {
+    return CReg(environment().settings).SaveSetting(RootKey::current_user, sSection, sKey, sSetting);
+}
+
+void CCom::QOpenHelp(const Object& objoleEx) {
+    gExcel = objoleEx;
+    attempt([&] { gExcel.call(names::Help, QHelpFile); });
+    gExcel = Object();
+}
+
+void CCom::QSetCurrDir(const std::u16string& sSetCurrDir) {
+    std::error_code refused;
+    std::filesystem::current_path(sSetCurrDir, refused);
+}
+
+void CCom::QSetupFunc(const Object& objoleEx) {
+    gExcel = objoleEx;
+    attempt([&] { setup_functions(gExcel, QHelpFile); });
+    gExcel = Object();
+}
+
+}  // namespace qor

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "automation/member_table.hpp"
+
+namespace qor {
+
+// The add-in's one public automation object. A host's companion creates it, keeps it while the host runs and forwards
+// every macro and every worksheet function to the member of the same name.
+class CCom final : public Dispatch {
+  public:
+    CCom();
+
+    // Every member with its parameters and the way it fails. A member whose first parameter is objoleEx is a command
+    // and gets the host's Application there.
+    static const MemberTable<CCom>& members();
+
+    Variant invoke(const MemberName& name, Access access, Arguments arguments) override;
+    std::u16string_view type_name() const noexcept override { return u"CCom"; }
+
+    // Plain state, set by the companion.
+    std::int32_t QCurrentTab = 0;
+    std::u16string QExcelVer;
+    std::u16string QHelpFile;
+    std::int32_t QHelpFileId = 0;
+    std::u16string QThisWrkBkPath;  // without a trailing separator
+    std::u16string QWorksheetName;
+    std::u16string QTargetAddress;
+    bool QDoSelectionChange = false;
+
+    std::u16string QTitle() const;
+    std::u16string QCompany() const;
+    std::int32_t QMajor() const;
+    std::int32_t QMinor() const;
+
+    std::u16string QGetSetting(const std::u16string& sSection, const std::u16string& sKey,
+                               const std::u16string& sDefault) const;
+    bool QSaveSetting(const std::u16string& sSection, const std::u16string& sKey, const std::u16string& sSetting) const;
+    void QOpenHelp(const Object& objoleEx);
+    void QSetCurrDir(const std::u16string& sSetCurrDir);
+    void QSetupFunc(const Object& objoleEx);
+};
+
+}  // namespace qor
