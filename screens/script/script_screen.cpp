@@ -58,9 +58,10 @@ json list_of(const json& call, const char* key, bool (json::*is_element)() const
     return list;
 }
 
-void require_used(const char* did, const char* things, std::size_t used, const char* holds, std::size_t held) {
-    if (used < held)
-        throw ScriptError(fmt::format("the call {} {} {}, the script {} {}", did, used, things, holds, held));
+void require_used(const char* thing, std::size_t shown, const char* holds, std::size_t held) {
+    if (shown >= held) return;
+    throw ScriptError(fmt::format("the call showed {} {}{}, the script has {} for {}", shown, thing,
+                                  shown == 1 ? "" : "s", holds, held));
 }
 
 // What closing the window does: the Cancel button, where the form has one.
@@ -85,8 +86,8 @@ void ScriptScreen::begin_call(const json& call) {
 
 json ScriptScreen::end_call(bool command_failed) {
     if (!command_failed) {
-        require_used("showed", "forms", shown_forms_.size(), "has actions for", forms_.size());
-        require_used("asked", "questions", messages_.size(), "has answers for", answers_.size());
+        require_used("form", shown_forms_.size(), "actions", forms_.size());
+        require_used("message", messages_.size(), "answers", answers_.size());
     }
     return {{"forms", std::move(shown_forms_)}, {"messages", std::move(messages_)}, {"progress", std::move(progress_)}};
 }
