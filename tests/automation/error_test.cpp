@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <string>
+
 using namespace qor;
 
 TEST_CASE("an error carries the run time's description of its number") {
@@ -31,7 +33,7 @@ TEST_CASE("a procedure that raises nothing answers through its trace") {
 
 TEST_CASE("an attempted statement that fails leaves its target as it was and gives its number") {
     int target = 3;
-    const auto failing = [] -> int { throw Error(ErrorNumber::type_mismatch); };
+    const auto failing = []() -> int { throw Error(ErrorNumber::type_mismatch); };
     CHECK(attempt([&] { target = failing(); }) == 13);
     CHECK(target == 3);
     CHECK(attempt([&] { target = 4; }) == 0);
