@@ -19,17 +19,12 @@ constexpr double first_without_neighbours = 9007199254740992;  // 2^53: from her
 double nearest_whole(double value, double power, double product) {
     const double whole = std::nearbyint(product);
     const double rest = product - whole;  // exact
-    // Away from a tie the product's own error cannot change the side, since it is at most half a unit of its last
-    // place.
-    if (std::abs(rest) != 0.5 && std::abs(product) < first_without_neighbours / 2) return whole;
+    // Away from a tie the product's own error, half a unit of its last place, cannot change the side. From 2^52 on the
+    // multiplication has itself rounded to the whole number, half to even.
+    if (std::abs(rest) != 0.5) return whole;
     const double product_error = std::fma(value, power, -product);  // exact
-    if (rest == 0) {
-        // Doubles are whole numbers here, so that a tie can lie in the error alone.
-        const bool is_odd = std::fmod(whole, 2) != 0;
-        return std::abs(product_error) == 0.5 && is_odd ? whole + std::copysign(1.0, product_error) : whole;
-    }
-    const bool error_leads_away = product_error != 0 && std::signbit(product_error) == std::signbit(rest);
-    return error_leads_away ? whole + std::copysign(1.0, rest) : whole;
+    const bool is_beyond_tie = product_error != 0 && std::signbit(product_error) == std::signbit(rest);
+    return is_beyond_tie ? whole + std::copysign(1.0, rest) : whole;
 }
 
 // For values so small that the power of ten is none that a double holds: by the decimal digits themselves.

@@ -125,6 +125,12 @@ TEST_CASE("rounding agrees with exact decimal arithmetic") {
         const auto odd = static_cast<double>(*rc::gen::arbitrary<std::int32_t>() | 1);
         agrees(std::ldexp(odd, -(places + 1)), places);
     }));
+    CHECK(rc::check("exact ties among the largest", [&] {
+        const auto places = *rc::gen::inRange(0, 16);
+        const auto least = std::ldexp(1.0, 51) / std::pow(5.0, places);
+        const auto odd = 2 * std::floor(least * (1 + *rc::gen::inRange(0, 1000) / 1000.0)) + 1;
+        agrees(std::ldexp(odd, -(places + 1)), places);
+    }));
     CHECK(rc::check("around the end of the whole numbers", [&] {
         const auto places = *rc::gen::inRange(0, 22);
         const auto near = std::ldexp(1.0, *rc::gen::inRange(50, 55)) / std::pow(10.0, places);
