@@ -132,7 +132,7 @@ std::u16string take_quoted(std::u16string_view text, std::size_t& position) {
     return content;
 }
 
-std::u16string quoted(std::u16string_view text, char16_t quote) {
+std::u16string in_quotes(std::u16string_view text, char16_t quote) {
     std::u16string result(1, quote);
     for (const char16_t c : text) {
         if (c == quote) result += quote;

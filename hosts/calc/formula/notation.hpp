@@ -53,7 +53,7 @@ std::optional<CornerPair> parse_range(std::u16string_view text);
 // The text between the quotes at `position`, with doubled quotes made single; `position` moves behind the last quote.
 std::u16string take_quoted(std::u16string_view text, std::size_t& position);
 // Puts quotes around the text and doubles those in it.
-std::u16string quoted(std::u16string_view text, char16_t quote = u'\'');
+std::u16string in_quotes(std::u16string_view text, char16_t quote = u'\'');
 // Whether Excel needs quotes around this sheet's name in a formula.
 bool needs_quotes(std::u16string_view sheet);
 

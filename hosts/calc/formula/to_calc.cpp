@@ -147,9 +147,9 @@ class ToCalc {
                                                ? address_of_path(std::u16string(place.substr(0, open)).append(book))
                                                : (books_ ? books_(book) : std::u16string());
             sheets = place.substr(close + 1);
-            prefix = address.empty() ? u"#REF!" : quoted(address) + u"#";
+            prefix = address.empty() ? u"#REF!" : in_quotes(address) + u"#";
         } else if (place.find(u'/') != std::u16string_view::npos) {
-            in_.put(quoted(address_of_path(place)) + u"#");
+            in_.put(in_quotes(address_of_path(place)) + u"#");
             in_.put(in_.take_word());
             return;
         }
@@ -182,7 +182,7 @@ class ToCalc {
     static std::u16string sheet_text(std::u16string_view sheet) {
         const bool plain = std::ranges::all_of(
             sheet, [](char16_t c) { return is_letter(c) || is_digit(c) || c == u'_' || c >= 0x80; });
-        return u"$" + (plain && !sheet.empty() ? std::u16string(sheet) : quoted(sheet)) + u".";
+        return u"$" + (plain && !sheet.empty() ? std::u16string(sheet) : in_quotes(sheet)) + u".";
     }
 
     // `place` and `last_place` stand in front of the two corners.

@@ -184,7 +184,7 @@ class ToExcel {
             text += u":";
             text += last_sheet;
         }
-        in_.put(quotes ? quoted(text) : text);
+        in_.put(quotes ? in_quotes(text) : text);
         in_.put(u'!');
     }
 

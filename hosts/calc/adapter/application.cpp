@@ -1,0 +1,162 @@
+#include "hosts/calc/adapter/application.hpp"
+
+#include <unistd.h>
+
+#include <com/sun/star/configuration/theDefaultProvider.hpp>
+#include <com/sun/star/container/XNameAccess.hpp>
+#include <com/sun/star/sheet/XCalculatable.hpp>
+#include <cstdlib>
+
+#include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/uno/sequence.hpp"
+#include "hosts/calc/uno/service.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+Variant configured(const css::uno::Reference<css::uno::XComponentContext>& context, std::u16string_view node,
+                   const char* name) {
+    const Ref provider{css::configuration::theDefaultProvider::get(context)};
+    const Ref<css::container::XNameAccess> access(Ref{provider->createInstanceWithArguments(
+        "com.sun.star.configuration.ConfigurationAccess",
+        sequence_of<css::uno::Any>({css::uno::Any(named_value("nodepath", to_uno(node)))}))});
+    rtl::OUString text;
+    access->getByName(rtl::OUString::createFromAscii(name)) >>= text;
+    return from_uno(text);
+}
+
+class ApplicationObject final : public CalcObject<ApplicationObject> {
+  public:
+    static constexpr std::u16string_view name_of_type = u"Application";
+
+    explicit ApplicationObject(HostPointer host) : host_(std::move(host)) {}
+
+    static const MemberTable<ApplicationObject>& members();
+
+    Identity identity() const { return Identity(host_->desktop().reference(), css::uno::UNO_QUERY); }
+
+  private:
+    Object active_workbook() {
+        Book book{host_, host_->active_document()};
+        return book.document ? make_workbook(std::move(book)) : Object();
+    }
+    Object active_sheet() {
+        const Book book{host_, host_->active_document()};
+        return book.document ? make_worksheet(book.active_sheet()) : Object();
+    }
+    Object active_window() {
+        const Book book{host_, host_->active_document()};
+        return book.document ? make_window(book, book.model()->getCurrentController()) : Object();
+    }
+    Object active_cell() {
+        const Book book{host_, host_->active_document()};
+        return book.document ? active_cell_of(book, book.model()->getCurrentController()) : Object();
+    }
+    Object selection() {
+        const Book book{host_, host_->active_document()};
+        return book.document ? selection_of(book, book.model()->getCurrentController()) : Object();
+    }
+
+    static Variant item_or_all(Object collection, const Variant& index) {
+        return index.is_missing() ? Variant(std::move(collection)) : collection.get(names::Item, index);
+    }
+    Variant workbooks(const Variant& index) { return item_or_all(make_workbooks(host_), index); }
+    Variant windows(const Variant& index) { return item_or_all(make_windows(host_, {}), index); }
+    Variant worksheets(const Variant& index) { return item_or_all(make_sheets(active_book(host_)), index); }
+
+    Variant range(const Variant& first, const Variant& last) {
+        return make_worksheet(active_book(host_).active_sheet()).get(names::Range, first, last);
+    }
+    Variant cells(const Variant& row, const Variant& column) {
+        return make_worksheet(active_book(host_).active_sheet()).get(names::Cells, row, column);
+    }
+    Variant rows(const Variant& index) {
+        return make_worksheet(active_book(host_).active_sheet()).get(names::Rows, index);
+    }
+    Variant columns(const Variant& index) {
+        return make_worksheet(active_book(host_).active_sheet()).get(names::Columns, index);
+    }
+
+    // The name in the user's profile, else the one of the login.
+    std::u16string user_name() {
+        const auto part = [&](const char* name) {
+            return to_text(configured(host_->context(), u"/org.openoffice.UserProfile/Data", name));
+        };
+        const std::u16string given = part("givenname");
+        const std::u16string family = part("sn");
+        if (!given.empty() && !family.empty()) return given + u" " + family;
+        if (!given.empty() || !family.empty()) return given + family;
+        const char* login = ::getlogin();
+        if (!login) login = std::getenv("USER");
+        return from_utf8(login ? login : "");
+    }
+
+    std::u16string version() {
+        return to_text(configured(host_->context(), u"/org.openoffice.Setup/Product", "ooSetupVersion"));
+    }
+    std::u16string name() {
+        return to_text(configured(host_->context(), u"/org.openoffice.Setup/Product", "ooName")) + u" Calc";
+    }
+
+    void help(const Variant& file, const Variant&) {
+        throw Error(ErrorNumber::host_refused, {},
+                    u"The help file " + (file.is_missing() ? std::u16string() : to_text(file)) + u" cannot be opened.");
+    }
+
+    bool screen_updating() { return host_->screen_updating(); }
+    void set_screen_updating(bool on) { host_->set_screen_updating(on); }
+    bool display_alerts() { return host_->display_alerts; }
+    void set_display_alerts(bool on) { host_->display_alerts = on; }
+
+    void calculate() {
+        for (const Document& document : host_->documents()) Ref<css::sheet::XCalculatable>(document)->calculate();
+    }
+
+    Object application() { return make_application(host_); }
+
+    HostPointer host_;
+};
+
+const MemberTable<ApplicationObject>& ApplicationObject::members() {
+    using A = ApplicationObject;
+    static const MemberTable<A> table({
+        property<&A::active_cell>(u"ActiveCell"),
+        property<&A::active_sheet>(u"ActiveSheet"),
+        property<&A::active_window>(u"ActiveWindow"),
+        property<&A::active_workbook>(u"ActiveWorkbook"),
+        property<&A::application>(u"Application"),
+        method<&A::calculate>(u"Calculate"),
+        property<&A::cells>(u"Cells", {u"RowIndex", u"ColumnIndex"}),
+        property<&A::columns>(u"Columns", {u"Index"}),
+        property<&A::display_alerts, &A::set_display_alerts>(u"DisplayAlerts"),
+        method<&A::help>(u"Help", {u"HelpFile", u"HelpContextID"}),
+        property<&A::name>(u"Name"),
+        property<&A::application>(u"Parent"),
+        property<&A::range>(u"Range", {u"Cell1", u"Cell2"}),
+        property<&A::rows>(u"Rows", {u"Index"}),
+        property<&A::screen_updating, &A::set_screen_updating>(u"ScreenUpdating"),
+        property<&A::selection>(u"Selection"),
+        property<&A::worksheets>(u"Sheets", {u"Index"}),
+        property<&A::user_name>(u"UserName"),
+        property<&A::version>(u"Version"),
+        property<&A::windows>(u"Windows", {u"Index"}),
+        property<&A::workbooks>(u"Workbooks", {u"Index"}),
+        property<&A::worksheets>(u"Worksheets", {u"Index"}),
+    });
+    return table;
+}
+
+}  // namespace
+
+Object make_application(HostPointer host) {
+    return make_object<ApplicationObject>(std::move(host));
+}
+
+Object make_application(const css::uno::Reference<css::uno::XComponentContext>& context) {
+    return guarded([&] { return make_application(std::make_shared<Host>(context)); });
+}
+
+}  // namespace qor::calc

@@ -1,0 +1,95 @@
+#include "hosts/calc/adapter/book.hpp"
+
+#include <com/sun/star/container/XEnumeration.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/frame/XModel2.hpp>
+#include <com/sun/star/frame/XTitle.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XSpreadsheetView.hpp>
+#include <osl/file.hxx>
+
+#include "hosts/calc/uno/text.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+
+std::u16string path_of_address(std::u16string_view address) {
+    rtl::OUString path;
+    const auto outcome = osl::FileBase::getSystemPathFromFileURL(to_uno(address), path);
+    return outcome == osl::FileBase::E_None ? from_uno(path) : std::u16string(address);
+}
+
+std::u16string address_of_path(std::u16string_view path) {
+    rtl::OUString address;
+    const auto outcome = osl::FileBase::getFileURLFromSystemPath(to_uno(path), address);
+    return outcome == osl::FileBase::E_None ? from_uno(address) : std::u16string(path);
+}
+
+std::u16string Book::file_path() const {
+    const rtl::OUString address = model()->getURL();
+    return address.isEmpty() ? std::u16string() : path_of_address(view_of(address));
+}
+
+std::u16string Book::name() const {
+    const std::u16string path = file_path();
+    if (!path.empty()) return path.substr(path.rfind(u'/') + 1);
+    return from_uno(Ref<css::frame::XTitle>(document)->getTitle());
+}
+
+std::vector<Sheet> Book::sheets() const {
+    const Ref<css::container::XIndexAccess> all(Ref{document->getSheets()});
+    std::vector<Sheet> result;
+    const sal_Int32 count = all->getCount();
+    result.reserve(static_cast<std::size_t>(count));
+    for (sal_Int32 i = 0; i < count; ++i) {
+        result.push_back({*this, Ref<css::sheet::XSpreadsheet>(all->getByIndex(i))});
+    }
+    return result;
+}
+
+Sheet Book::sheet(std::u16string_view name) const {
+    const Ref sheets{document->getSheets()};
+    for (const rtl::OUString& candidate : sheets->getElementNames()) {
+        if (equal_ignoring_case(view_of(candidate), name)) {
+            return {*this, Ref<css::sheet::XSpreadsheet>(sheets->getByName(candidate))};
+        }
+    }
+    throw Error(ErrorNumber::subscript_out_of_range);
+}
+
+Sheet Book::active_sheet() const {
+    const Ref<css::sheet::XSpreadsheetView> view(Ref{model()->getCurrentController()});
+    return {*this, view->getActiveSheet()};
+}
+
+std::vector<Ref<css::frame::XController>> Book::controllers() const {
+    std::vector<Ref<css::frame::XController>> result;
+    const Ref elements{Ref<css::frame::XModel2>(document)->getControllers()};
+    while (elements->hasMoreElements()) result.emplace_back(elements->nextElement());
+    return result;
+}
+
+std::u16string Sheet::name() const {
+    return from_uno(Ref<css::container::XNamed>(sheet)->getName());
+}
+
+std::int32_t Sheet::index() const {
+    return Ref<css::sheet::XCellRangeAddressable>(sheet)->getRangeAddress().Sheet;
+}
+
+Book book_named(const HostPointer& host, std::u16string_view name) {
+    for (const Document& document : host->documents()) {
+        Book book{host, document};
+        if (equal_ignoring_case(book.name(), name)) return book;
+    }
+    throw Error(ErrorNumber::subscript_out_of_range);
+}
+
+Book active_book(const HostPointer& host) {
+    Book book{host, host->active_document()};
+    if (!book.document) throw Error(ErrorNumber::host_refused);
+    return book;
+}
+
+}  // namespace qor::calc

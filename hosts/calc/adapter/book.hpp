@@ -1,0 +1,50 @@
+#pragma once
+
+#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/sheet/XSpreadsheet.hpp>
+#include <string>
+#include <vector>
+
+#include "hosts/calc/adapter/host.hpp"
+
+namespace qor::calc {
+
+struct Sheet;
+
+// An open workbook.
+struct Book {
+    HostPointer host;
+    Document document;
+
+    Ref<css::frame::XModel> model() const { return Ref<css::frame::XModel>(document); }
+    // As Excel names it: the file's name with its extension, or the title of a workbook that was never saved.
+    std::u16string name() const;
+    // The path of its file in the system's notation; empty when it was never saved.
+    std::u16string file_path() const;
+    std::vector<Sheet> sheets() const;
+    // Raises 9 when there is none of that name. Names are compared without regard to case.
+    Sheet sheet(std::u16string_view name) const;
+    Sheet active_sheet() const;
+    // Its windows in the order of their opening.
+    std::vector<Ref<css::frame::XController>> controllers() const;
+};
+
+// One worksheet of a workbook.
+struct Sheet {
+    Book book;
+    Ref<css::sheet::XSpreadsheet> sheet;
+
+    std::u16string name() const;
+    std::int32_t index() const;  // from 0, at this moment
+};
+
+// The open workbook of that name; raises 9 when there is none.
+Book book_named(const HostPointer& host, std::u16string_view name);
+// The workbook that the user works in; raises 1004 when there is none.
+Book active_book(const HostPointer& host);
+
+// The system's path of a file's address and the reverse; an address that is no file's stays as it is.
+std::u16string path_of_address(std::u16string_view address);
+std::u16string address_of_path(std::u16string_view path);
+
+}  // namespace qor::calc

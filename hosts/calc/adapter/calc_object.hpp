@@ -1,0 +1,56 @@
+#pragma once
+
+#include <com/sun/star/uno/XInterface.hpp>
+
+#include "automation/member_table.hpp"
+#include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/ref.hpp"
+#include "runtime/bind.hpp"
+
+namespace qor::calc {
+
+// An object of Excel's model answered from the office. A class has its rows in members(), its name in `name`, and says
+// in identity() which object of the office it stands for.
+template <class Self>
+class CalcObject : public Dispatch {
+  public:
+    Variant invoke(const MemberName& name, Access access, Arguments arguments) final {
+        return guarded([&] { return Self::members().invoke(self(), name, access, arguments); });
+    }
+    std::vector<Variant> items() final {
+        return guarded([&]() -> std::vector<Variant> {
+            if constexpr (requires(Self & object) { object.elements(); }) {
+                return self().elements();
+            } else {
+                return Dispatch::items();
+            }
+        });
+    }
+    bool is_same(const Dispatch& other) const noexcept final {
+        const auto* same_kind = dynamic_cast<const Self*>(&other);
+        if (!same_kind) return false;
+        if constexpr (requires(const Self& object) { object.identity(); }) {
+            return self().identity() == same_kind->identity();
+        } else {
+            return this == &other;
+        }
+    }
+    std::u16string_view type_name() const noexcept final { return Self::name_of_type; }
+
+  private:
+    Self& self() { return static_cast<Self&>(*this); }
+    const Self& self() const { return static_cast<const Self&>(*this); }
+};
+
+using Identity = css::uno::Reference<css::uno::XInterface>;
+
+// The element of a collection that an index from 1 asks for. Raises 9 when it lies outside.
+template <class Elements>
+auto& element_at(Elements& elements, std::int32_t index) {
+    if (index < 1 || static_cast<std::size_t>(index) > elements.size()) {
+        throw Error(ErrorNumber::subscript_out_of_range);
+    }
+    return elements[static_cast<std::size_t>(index - 1)];
+}
+
+}  // namespace qor::calc

@@ -1,0 +1,223 @@
+#include "hosts/calc/adapter/cell_reader.hpp"
+
+#include <cmath>
+#include <com/sun/star/sheet/FormulaResult.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XCellRangeFormula.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+
+#include "hosts/calc/adapter/cell_errors.hpp"
+#include "hosts/calc/adapter/number_kinds.hpp"
+#include "hosts/calc/adapter/number_text.hpp"
+#include "hosts/calc/formula/notation.hpp"
+#include "hosts/calc/uno/property.hpp"
+
+namespace qor::calc {
+namespace {
+
+using Data = css::uno::Sequence<css::uno::Sequence<css::uno::Any>>;
+using Texts = css::uno::Sequence<css::uno::Sequence<rtl::OUString>>;
+using Places = css::uno::Sequence<css::table::CellRangeAddress>;
+
+constexpr sal_Int32 any_result =
+    css::sheet::FormulaResult::VALUE | css::sheet::FormulaResult::STRING | css::sheet::FormulaResult::ERROR;
+
+// What one range holds, as the office hands it out, and the table that is made of it.
+class Reading {
+  public:
+    Reading(const Sheet& sheet, const Cells& cells) : sheet_(sheet), cells_(cells), origin_(rectangle_of(cells)) {}
+
+    Variant values(Typing typing) {
+        take_data();
+        if (numbers_) apply_kinds(typing);
+        if (truths_) apply_constants();
+        if (errors_) apply_errors();
+        if (empty_texts_) {
+            for_each(query()->queryEmptyCells(), [&](std::size_t place) { table_.at(place) = Empty{}; });
+        }
+        return result();
+    }
+
+    Variant formulas() {
+        take_data();
+        const bool may_hold_truth = truths_;
+        if (may_hold_truth) apply_kinds(Typing::plain);
+        for (std::size_t place = 0; place < table_.size(); ++place) {
+            Variant& entry = table_.at(place);
+            if (const double* number = entry.get_if<double>()) entry = number_text(*number);
+            if (const bool* truth = entry.get_if<bool>()) entry = *truth ? u"TRUE" : u"FALSE";
+            if (entry.is_empty()) entry = u"";
+        }
+        const Places formula_places = formula_cells();
+        if (formula_places.getLength() == 0) return result();
+        const Texts texts = formula_texts();
+        const FormulaTranslator& translator = sheet_.book.host->translator();
+        for_each(formula_places, [&](std::size_t place) {
+            const std::u16string_view text = view_of(text_at(texts, place));
+            const std::u16string_view constant = constant_in(text);
+            table_.at(place) = constant.empty() ? translator.to_excel(text) : std::u16string(constant);
+        });
+        return result();
+    }
+
+    FormulaCounts counts() {
+        FormulaCounts result{.cells = origin_.cells()};
+        const Places places = formula_cells();
+        if (places.getLength() == 0) return result;
+        const Texts texts = formula_texts();
+        for_each(places, [&](std::size_t place) {
+            const std::u16string_view text = view_of(text_at(texts, place));
+            if (constant_in(text).empty()) ++result.formulas;
+            if (text.starts_with(u'{')) ++result.in_arrays;
+        });
+        return result;
+    }
+
+  private:
+    Ref<css::sheet::XCellRangesQuery> query() const { return Ref<css::sheet::XCellRangesQuery>(cells_); }
+
+    Places formula_cells() const {
+        return Ref {
+            query()->queryFormulaCells(any_result)
+            } -> getRangeAddresses();
+    }
+
+    Texts formula_texts() const { return Ref<css::sheet::XCellRangeFormula>(cells_)->getFormulaArray(); }
+
+    const rtl::OUString& text_at(const Texts& texts, std::size_t place) const {
+        const auto width = static_cast<std::size_t>(origin_.width());
+        return texts[static_cast<sal_Int32>(place / width)][static_cast<sal_Int32>(place % width)];
+    }
+
+    // Constants that files bring as formulas without an argument: TRUE, FALSE and the error values.
+    static std::u16string_view constant_in(std::u16string_view formula) {
+        if (formula == u"=TRUE()") return u"TRUE";
+        if (formula == u"=FALSE()") return u"FALSE";
+        if (!formula.starts_with(u"=#")) return {};
+        const std::u16string_view text = formula.substr(1);
+        return error_constant_at(text, 0).size() == text.size() ? text : std::u16string_view{};
+    }
+
+    void take_data() {
+        const Data data = Ref<css::sheet::XCellRangeData>(cells_)->getDataArray();
+        std::size_t place = 0;
+        for (const auto& row : data) {
+            for (const css::uno::Any& value : row) {
+                Variant& entry = table_.at(place++);
+                double number = 0;
+                rtl::OUString text;
+                if (value >>= number) {
+                    entry = number;
+                    numbers_ = true;
+                    truths_ = truths_ || number == 0 || number == 1;
+                } else if (value >>= text) {
+                    entry = from_uno(text);
+                    empty_texts_ = empty_texts_ || text.isEmpty();
+                } else {
+                    errors_ = true;  // stays empty until its code is known
+                }
+            }
+        }
+    }
+
+    void apply_kinds(Typing typing) {
+        std::optional<double> shift;
+        for (const KindOfCells& run : number_kinds(sheet_, cells_)) {
+            if (typing == Typing::plain && run.kind != NumberKind::boolean) continue;
+            if (run.kind == NumberKind::date && !shift) shift = days_to_null_date(sheet_);
+            for_each(run.places, [&](std::size_t place) {
+                const double* number = table_.at(place).get_if<double>();
+                if (number) table_.at(place) = typed(*number, run.kind, shift.value_or(0));
+            });
+        }
+    }
+
+    static Variant typed(double number, NumberKind kind, double shift) {
+        constexpr double most_money = 922337203685477.5;
+        switch (kind) {
+            case NumberKind::boolean:
+                return number != 0;
+            case NumberKind::date:
+                return Date{number + shift};
+            case NumberKind::currency:
+                if (std::abs(number) < most_money) return Currency{std::llround(number * 10000)};
+                return number;
+            case NumberKind::plain:
+                break;
+        }
+        return number;
+    }
+
+    // An xls file brings Booleans as formulas in cells of a plain format.
+    void apply_constants() {
+        const Places places = Ref {
+            query()->queryFormulaCells(css::sheet::FormulaResult::VALUE)
+            } -> getRangeAddresses();
+        if (places.getLength() == 0) return;
+        const Texts texts = formula_texts();
+        for_each(places, [&](std::size_t place) {
+            const std::u16string_view constant = constant_in(view_of(text_at(texts, place)));
+            if (!constant.empty()) table_.at(place) = constant == u"TRUE";
+        });
+    }
+
+    void apply_errors() {
+        const Places places = Ref {
+            query()->queryFormulaCells(css::sheet::FormulaResult::ERROR)
+            } -> getRangeAddresses();
+        for (const CellError& error : cell_errors(cells_, places)) {
+            table_.at(place_of(error.column, error.row)) = ErrorValue{error.code};
+        }
+    }
+
+    std::size_t place_of(sal_Int32 column, sal_Int32 row) const {
+        return static_cast<std::size_t>(row - origin_.top) * table_.columns() +
+               static_cast<std::size_t>(column - origin_.left);
+    }
+
+    // Visits the cells of the places that lie in the range.
+    template <class Places, class Visit>
+    void for_each(const Places& places, Visit visit) {
+        for (const css::table::CellRangeAddress& at : places) {
+            for (sal_Int32 row = at.StartRow; row <= at.EndRow; ++row) {
+                for (sal_Int32 column = at.StartColumn; column <= at.EndColumn; ++column) visit(place_of(column, row));
+            }
+        }
+    }
+    template <class Visit>
+    void for_each(const css::uno::Reference<css::sheet::XSheetCellRanges>& ranges, Visit visit) {
+        for_each(
+            Ref { ranges } -> getRangeAddresses(), visit);
+    }
+
+    Variant result() {
+        if (table_.size() == 1) return std::move(table_.at(0));
+        return Variant(std::move(table_));
+    }
+
+    const Sheet& sheet_;
+    const Cells& cells_;
+    Rectangle origin_;
+    Array table_ = Array::table(static_cast<std::size_t>(origin_.height()), static_cast<std::size_t>(origin_.width()));
+    bool numbers_ = false;
+    bool truths_ = false;  // some number is 0 or 1
+    bool empty_texts_ = false;
+    bool errors_ = false;
+};
+
+}  // namespace
+
+Variant read_values(const Sheet& sheet, const Cells& cells, Typing typing) {
+    return Reading(sheet, cells).values(typing);
+}
+
+Variant read_formulas(const Sheet& sheet, const Cells& cells) {
+    return Reading(sheet, cells).formulas();
+}
+
+FormulaCounts count_formulas(const Sheet& sheet, const Cells& cells) {
+    return Reading(sheet, cells).counts();
+}
+
+}  // namespace qor::calc

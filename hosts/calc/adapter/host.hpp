@@ -1,0 +1,55 @@
+#pragma once
+
+#include <com/sun/star/frame/XDesktop2.hpp>
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "hosts/calc/formula/translator.hpp"
+#include "hosts/calc/uno/ref.hpp"
+
+namespace qor::calc {
+
+using Document = Ref<css::sheet::XSpreadsheetDocument>;
+
+// What the objects of one Application share.
+class Host : public std::enable_shared_from_this<Host> {
+  public:
+    explicit Host(css::uno::Reference<css::uno::XComponentContext> context);
+
+    const css::uno::Reference<css::uno::XComponentContext>& context() const noexcept { return context_; }
+    const Ref<css::frame::XDesktop2>& desktop() const noexcept { return desktop_; }
+
+    // The open workbooks in the order of their opening, hidden ones too.
+    std::vector<Document> documents() const;
+    // The workbook that the user works in; empty when none is open in a window that can be seen.
+    Document active_document();
+    // Brings a workbook to the front. One without a window that can be seen is left where it is.
+    void activate(const Document& document);
+
+    // The names of functions come from the office at the first use.
+    const FormulaTranslator& translator();
+
+    bool screen_updating() const noexcept { return screen_updating_; }
+    void set_screen_updating(bool on);
+
+    bool display_alerts = true;
+
+  private:
+    css::uno::Reference<css::uno::XComponentContext> context_;
+    Ref<css::frame::XDesktop2> desktop_;
+    Document last_active_;  // the office itself knows none when it runs without a screen
+    std::optional<FormulaTranslator> translator_;
+    bool screen_updating_ = true;
+    std::vector<Document> locked_;  // whose screens stand still
+};
+
+using HostPointer = std::shared_ptr<Host>;
+
+// Whether some window of the document can be seen.
+bool has_visible_window(const Document& document);
+
+}  // namespace qor::calc

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "hosts/calc/adapter/range_areas.hpp"
+
+namespace qor::calc {
+
+// What a number is, which only its format tells.
+enum class NumberKind : std::uint8_t { plain, date, currency, boolean };
+
+struct KindOfCells {
+    NumberKind kind;
+    std::vector<css::table::CellRangeAddress> places;
+};
+
+// The cells of a range whose numbers are more than plain ones.
+std::vector<KindOfCells> number_kinds(const Sheet& sheet, const Cells& cells);
+NumberKind kind_of_format(const Sheet& sheet, std::int32_t format_key);
+
+// Days from 30 December 1899 to the day that the workbook counts from.
+double days_to_null_date(const Sheet& sheet);
+
+}  // namespace qor::calc

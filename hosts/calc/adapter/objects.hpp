@@ -1,0 +1,37 @@
+#pragma once
+
+#include <com/sun/star/table/CellAddress.hpp>
+
+#include "automation/member_names.hpp"
+#include "automation/variant.hpp"
+#include "hosts/calc/adapter/book.hpp"
+#include "hosts/calc/adapter/range_areas.hpp"
+
+// How the objects of the model make one another.
+namespace qor::calc {
+
+Object make_workbooks(HostPointer host);
+Object make_workbook(Book book);
+Object make_window(Book book, Ref<css::frame::XController> controller);
+// The windows of one workbook, or of all when it is empty.
+Object make_windows(HostPointer host, std::optional<Book> book);
+// All sheets of a workbook, or the ones given.
+Object make_sheets(Book book);
+Object make_sheets(Book book, std::vector<Sheet> chosen);
+Object make_worksheet(Sheet sheet);
+Object make_range(RangeAreas areas);
+Object make_font(RangeAreas areas);
+Object make_interior(RangeAreas areas);
+Object make_borders(RangeAreas areas);
+Object make_comment(Sheet sheet, css::table::CellAddress cell);
+Object make_comments(Sheet sheet);
+Object make_hyperlinks(RangeAreas areas);
+
+// The application, or the property of it that most objects repeat.
+Object make_application(HostPointer host);
+
+// What the user has selected in this window; Nothing when it is no range of cells.
+Object selection_of(const Book& book, const Ref<css::frame::XController>& controller);
+Object active_cell_of(const Book& book, const Ref<css::frame::XController>& controller);
+
+}  // namespace qor::calc

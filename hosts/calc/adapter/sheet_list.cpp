@@ -1,0 +1,77 @@
+#include "hosts/calc/adapter/sheet_list.hpp"
+
+#include <algorithm>
+#include <com/sun/star/container/XNamed.hpp>
+#include <set>
+
+#include "hosts/calc/adapter/selection.hpp"
+#include "hosts/calc/adapter/sheet_marks.hpp"
+#include "hosts/calc/adapter/write_guard.hpp"
+#include "hosts/calc/uno/property.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+std::set<std::u16string> names_in_capitals(const Book& book) {
+    std::set<std::u16string> names;
+    for (const rtl::OUString& name : Ref { book.document->getSheets() } -> getElementNames()) {
+        names.insert(to_upper(view_of(name)));
+    }
+    return names;
+}
+
+std::u16string unused_name(const std::set<std::u16string>& taken) {
+    for (std::size_t number = taken.size() + 1;; ++number) {
+        const std::string digits = std::to_string(number);
+        std::u16string name = u"Sheet" + std::u16string(digits.begin(), digits.end());
+        if (!taken.contains(to_upper(name))) return name;
+    }
+}
+
+}  // namespace
+
+Sheet insert_sheets(const Book& book, std::int32_t place, std::int32_t count) {
+    if (count < 1) throw Error(ErrorNumber::host_refused);
+    before_change(book);
+    std::set<std::u16string> taken = names_in_capitals(book);
+    const Ref sheets{book.document->getSheets()};
+    std::u16string name;
+    // The last one inserted comes to stand first.
+    for (std::int32_t i = 0; i < count; ++i) {
+        name = unused_name(taken);
+        taken.insert(to_upper(name));
+        sheets->insertNewByName(to_uno(name), static_cast<sal_Int16>(place));
+    }
+    Sheet first = book.sheet(name);
+    if (has_visible_window(book.document)) activate_sheet(first);
+    return first;
+}
+
+void rename_sheet(const Sheet& sheet, std::u16string_view name) {
+    constexpr std::size_t longest_name = 31;
+    const auto refused = [] { throw Error(ErrorNumber::host_refused); };
+    if (name.empty() || name.size() > longest_name) refused();
+    if (name.find_first_of(u":\\/?*[]") != std::u16string_view::npos) refused();
+    if (name.front() == u'\'' || name.back() == u'\'') refused();
+    const std::u16string old_name = sheet.name();
+    if (old_name == name) return;
+    if (!equal_ignoring_case(old_name, name) && names_in_capitals(sheet.book).contains(to_upper(name))) refused();
+    before_change(sheet.book);
+    Ref<css::container::XNamed>(sheet.sheet)->setName(to_uno(name));
+    if (sheet.name() != name) refused();
+    move_sheet_marks(sheet.book, old_name, std::u16string(name));
+}
+
+void delete_sheet(const Sheet& sheet) {
+    const std::vector<Sheet> all = sheet.book.sheets();
+    const auto visible =
+        std::ranges::count_if(all, [](const Sheet& each) { return get_property<bool>(each.sheet, "IsVisible"); });
+    if (visible == 1 && get_property<bool>(sheet.sheet, "IsVisible")) throw Error(ErrorNumber::host_refused);
+    before_change(sheet.book);
+    Ref {
+        sheet.book.document->getSheets()
+        } -> removeByName(to_uno(sheet.name()));
+}
+
+}  // namespace qor::calc

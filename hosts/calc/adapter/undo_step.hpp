@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "hosts/calc/adapter/host.hpp"
+
+namespace qor::calc {
+
+// While it lives, all changes that go through the adapter are one step of undo under one title, in each workbook that
+// is changed. A workbook without a change gets no step. A step begun within another one belongs to that one.
+class UndoStep {
+  public:
+    explicit UndoStep(std::u16string title);
+    UndoStep(const UndoStep&) = delete;
+    UndoStep& operator=(const UndoStep&) = delete;
+    ~UndoStep();
+
+    // Called before the first change of a document, and harmless before further ones.
+    static void note_change(const Document& document);
+
+  private:
+    std::u16string title_;
+    bool outermost_;
+    std::vector<Document> entered_;
+};
+
+}  // namespace qor::calc

@@ -1,0 +1,109 @@
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/util/XModifiable.hpp>
+
+#include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/documents.hpp"
+#include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/uno/property.hpp"
+
+namespace qor::calc {
+namespace {
+
+class WorkbookObject final : public CalcObject<WorkbookObject> {
+  public:
+    static constexpr std::u16string_view name_of_type = u"Workbook";
+
+    explicit WorkbookObject(Book book) : book_(std::move(book)) {}
+
+    static const MemberTable<WorkbookObject>& members();
+
+    Identity identity() const { return Identity(book_.document.reference(), css::uno::UNO_QUERY); }
+
+  private:
+    std::u16string name() { return book_.name(); }
+
+    std::u16string full_name() {
+        std::u16string path = book_.file_path();
+        return path.empty() ? book_.name() : path;
+    }
+
+    std::u16string path() {
+        const std::u16string path = book_.file_path();
+        return path.substr(0, path.empty() ? 0 : path.rfind(u'/'));
+    }
+
+    std::int32_t file_format() {
+        constexpr std::int32_t new_workbook = 51;
+        for (const auto& argument : book_.model()->getArgs()) {
+            if (argument.Name != "FilterName") continue;
+            const auto filter = value_of<rtl::OUString>(argument.Value);
+            if (const FileFormat* format = format_of_filter(view_of(filter))) return format->number;
+        }
+        return new_workbook;
+    }
+
+    bool read_only() { return Ref<css::frame::XStorable>(book_.document)->isReadonly(); }
+
+    bool saved() { return !Ref<css::util::XModifiable>(book_.document)->isModified(); }
+    void set_saved(bool saved) { Ref<css::util::XModifiable>(book_.document)->setModified(!saved); }
+
+    Variant windows(const Variant& index) {
+        const Object all = make_windows(book_.host, book_);
+        return index.is_missing() ? Variant(all) : all.get(names::Item, index);
+    }
+    Variant worksheets(const Variant& index) {
+        const Object all = make_sheets(book_);
+        return index.is_missing() ? Variant(all) : all.get(names::Item, index);
+    }
+    Object active_sheet() { return make_worksheet(book_.active_sheet()); }
+
+    void activate() { book_.host->activate(book_.document); }
+
+    void close(std::optional<bool> save_changes, std::optional<std::u16string> path) {
+        if (save_changes.value_or(false) && !saved()) {
+            if (path) {
+                save_book_as(book_, *path, {});
+            } else {
+                save_book(book_);
+            }
+        }
+        close_book(book_);
+    }
+    void save() { save_book(book_); }
+    void save_as(const std::u16string& path, std::optional<std::int32_t> format) { save_book_as(book_, path, format); }
+
+    Object application() { return make_application(book_.host); }
+
+    Book book_;
+};
+
+const MemberTable<WorkbookObject>& WorkbookObject::members() {
+    using W = WorkbookObject;
+    static const MemberTable<W> table({
+        method<&W::activate>(u"Activate"),
+        property<&W::active_sheet>(u"ActiveSheet"),
+        property<&W::application>(u"Application"),
+        method<&W::close>(u"Close", {u"SaveChanges", u"Filename"}),
+        property<&W::file_format>(u"FileFormat"),
+        property<&W::full_name>(u"FullName"),
+        property<&W::name>(u"Name"),
+        property<&W::application>(u"Parent"),
+        property<&W::path>(u"Path"),
+        property<&W::read_only>(u"ReadOnly"),
+        method<&W::save>(u"Save"),
+        method<&W::save_as>(u"SaveAs", {u"Filename", u"FileFormat"}),
+        property<&W::saved, &W::set_saved>(u"Saved"),
+        property<&W::worksheets>(u"Sheets", {u"Index"}),
+        property<&W::windows>(u"Windows", {u"Index"}),
+        property<&W::worksheets>(u"Worksheets", {u"Index"}),
+    });
+    return table;
+}
+
+}  // namespace
+
+Object make_workbook(Book book) {
+    return make_object<WorkbookObject>(std::move(book));
+}
+
+}  // namespace qor::calc

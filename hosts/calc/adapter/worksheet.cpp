@@ -1,0 +1,157 @@
+#include <com/sun/star/sheet/XUsedAreaCursor.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
+
+#include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/selection.hpp"
+#include "hosts/calc/adapter/sheet_list.hpp"
+#include "hosts/calc/adapter/sheet_marks.hpp"
+#include "hosts/calc/adapter/write_guard.hpp"
+#include "hosts/calc/formula/notation.hpp"
+#include "hosts/calc/uno/property.hpp"
+
+namespace qor::calc {
+namespace {
+
+constexpr Rectangle whole_sheet{0, 0, column_limit - 1, row_limit - 1};
+
+// How Excel counts a sheet's visibility.
+constexpr std::int32_t visible_sheet = -1;
+constexpr std::int32_t hidden_sheet = 0;
+constexpr std::int32_t very_hidden_sheet = 2;
+
+class WorksheetObject final : public CalcObject<WorksheetObject> {
+  public:
+    static constexpr std::u16string_view name_of_type = u"Worksheet";
+
+    explicit WorksheetObject(Sheet sheet) : sheet_(std::move(sheet)) {}
+
+    static const MemberTable<WorksheetObject>& members();
+
+    Identity identity() const { return Identity(sheet_.sheet.reference(), css::uno::UNO_QUERY); }
+
+  private:
+    std::u16string name() { return sheet_.name(); }
+    void set_name(const std::u16string& name) { rename_sheet(sheet_, name); }
+    std::int32_t index() { return sheet_.index() + 1; }
+
+    std::int32_t visible() {
+        if (get_property<bool>(sheet_.sheet, "IsVisible")) return visible_sheet;
+        return sheet_marks(sheet_).very_hidden ? very_hidden_sheet : hidden_sheet;
+    }
+    // True is -1 too; any other number that is not 0 or 2 shows the sheet.
+    void set_visible(std::int32_t state) {
+        const bool shown = state != hidden_sheet && state != very_hidden_sheet;
+        before_change(sheet_.book);
+        set_property(sheet_.sheet, "IsVisible", shown);
+        // The last visible sheet stays as it is without a word.
+        if (get_property<bool>(sheet_.sheet, "IsVisible") != shown) throw Error(ErrorNumber::host_refused);
+        SheetMarks marks = sheet_marks(sheet_);
+        marks.very_hidden = state == very_hidden_sheet;
+        set_sheet_marks(sheet_, marks);
+    }
+
+    bool protect_contents() { return Ref<css::util::XProtectable>(sheet_.sheet)->isProtected(); }
+    // Of a protection that was not made here only the contents are known, so it counts for all.
+    SheetMarks::Protection protection() {
+        const bool contents = protect_contents();
+        const auto asked = sheet_marks(sheet_).protection;
+        return asked && asked->contents == contents ? *asked : SheetMarks::Protection{contents, contents, contents};
+    }
+    bool protect_drawing_objects() { return protection().drawing_objects; }
+    bool protect_scenarios() { return protection().scenarios; }
+
+    void protect(std::optional<std::u16string> password, std::optional<bool> drawing_objects,
+                 std::optional<bool> contents, std::optional<bool> scenarios) {
+        const SheetMarks::Protection asked{contents.value_or(true), drawing_objects.value_or(true),
+                                           scenarios.value_or(true)};
+        before_change(sheet_.book);
+        const Ref<css::util::XProtectable> protectable(sheet_.sheet);
+        if (asked.contents && !protectable->isProtected()) protectable->protect(to_uno(password.value_or(u"")));
+        SheetMarks marks = sheet_marks(sheet_);
+        marks.protection = asked;
+        set_sheet_marks(sheet_, marks);
+    }
+    void unprotect(std::optional<std::u16string> password) {
+        before_change(sheet_.book);
+        const Ref<css::util::XProtectable> protectable(sheet_.sheet);
+        if (protectable->isProtected()) protectable->unprotect(to_uno(password.value_or(u"")));
+        if (protectable->isProtected()) throw Error(ErrorNumber::host_refused);
+        SheetMarks marks = sheet_marks(sheet_);
+        marks.protection.reset();
+        set_sheet_marks(sheet_, marks);
+    }
+
+    Object used_range() {
+        const Ref<css::sheet::XUsedAreaCursor> cursor(Ref{sheet_.sheet->createCursor()});
+        cursor->gotoStartOfUsedArea(false);
+        cursor->gotoEndOfUsedArea(true);
+        return make_range(range_at(sheet_, rectangle_of(Cells(cursor))));
+    }
+
+    Object part(RangeUnit unit, const Variant& first, const Variant& second) {
+        const Object all = make_range(range_at(sheet_, whole_sheet, unit));
+        if (first.is_missing()) return all;
+        return second.is_missing() ? all.get(names::Item, first) : all.get(names::Item, first, second);
+    }
+    Object cells(const Variant& row, const Variant& column) { return part(RangeUnit::cells, row, column); }
+    Object rows(const Variant& index) { return part(RangeUnit::rows, index, Missing{}); }
+    Object columns(const Variant& index) { return part(RangeUnit::columns, index, Missing{}); }
+
+    Object range(const Variant& first, const Variant& last) {
+        return make_range(range_at(sheet_, whole_sheet)).get(names::Range, first, last);
+    }
+
+    Object comments() { return make_comments(sheet_); }
+    Object hyperlinks() { return make_hyperlinks(range_at(sheet_, whole_sheet)); }
+
+    void activate() {
+        sheet_.book.host->activate(sheet_.book.document);
+        activate_sheet(sheet_);
+    }
+    void select(std::optional<bool> replace) { select_sheets(sheet_.book, {sheet_.index()}, replace.value_or(true)); }
+    void remove() { delete_sheet(sheet_); }
+    void calculate() { make_application(sheet_.book.host).call(MemberName(u"Calculate")); }
+
+    Object parent() { return make_workbook(sheet_.book); }
+    Object application() { return make_application(sheet_.book.host); }
+
+    Sheet sheet_;
+};
+
+const MemberTable<WorksheetObject>& WorksheetObject::members() {
+    using W = WorksheetObject;
+    static const MemberTable<W> table({
+        method<&W::activate>(u"Activate"),
+        property<&W::application>(u"Application"),
+        method<&W::calculate>(u"Calculate"),
+        property<&W::cells>(u"Cells", {u"RowIndex", u"ColumnIndex"}),
+        property<&W::columns>(u"Columns", {u"Index"}),
+        property<&W::comments>(u"Comments"),
+        method<&W::remove>(u"Delete"),
+        property<&W::hyperlinks>(u"Hyperlinks"),
+        property<&W::index>(u"Index"),
+        property<&W::name, &W::set_name>(u"Name"),
+        property<&W::parent>(u"Parent"),
+        method<&W::protect>(u"Protect", {u"Password", u"DrawingObjects", u"Contents", u"Scenarios"}),
+        property<&W::protect_contents>(u"ProtectContents"),
+        property<&W::protect_drawing_objects>(u"ProtectDrawingObjects"),
+        property<&W::protect_scenarios>(u"ProtectScenarios"),
+        property<&W::range>(u"Range", {u"Cell1", u"Cell2"}),
+        property<&W::rows>(u"Rows", {u"Index"}),
+        method<&W::select>(u"Select", {u"Replace"}),
+        method<&W::unprotect>(u"Unprotect", {u"Password"}),
+        property<&W::used_range>(u"UsedRange"),
+        property<&W::visible, &W::set_visible>(u"Visible"),
+    });
+    return table;
+}
+
+}  // namespace
+
+Object make_worksheet(Sheet sheet) {
+    if (!sheet.sheet) throw Error(ErrorNumber::host_refused);
+    return make_object<WorksheetObject>(std::move(sheet));
+}
+
+}  // namespace qor::calc
