@@ -59,13 +59,12 @@ void add_tools(std::vector<Row>& rows) {
 
 void add_functions(std::vector<Row>& rows) {
     for (const Function& function : worksheet_functions()) {
-        Row row{
-            .name = function.name,
-            .accesses = accesses::callable,
-            .parameters = {},
-            .invoke = [&function](CCom&, Access, std::span<Variant> arguments) { return function.invoke(arguments); }};
-        for (const auto& parameter : function.parameters) row.parameters.push_back(parameter.name);
-        rows.push_back(std::move(row));
+        rows.push_back({.name = function.member,
+                        .accesses = accesses::callable,
+                        .parameters = function.parameter_names(),
+                        .invoke = [&function](CCom&, Access, std::span<Variant> arguments) {
+                            return function.invoke(arguments);
+                        }});
     }
 }
 
