@@ -50,7 +50,7 @@ std::vector<AnswerText> offered_by(MessageButtons buttons) {
 constexpr std::array icon_names{"none", "critical", "question", "exclamation", "information"};
 
 json list_of(const json& call, const char* key, bool (json::*is_element)() const noexcept, const char* shape) {
-    const json list = call.value(key, json::array());
+    json list = call.value(key, json::array());
     const auto fits = [&](const json& element) { return (element.*is_element)(); };
     if (!list.is_array() || !std::ranges::all_of(list, fits)) {
         throw ScriptError(fmt::format("\"{}\" must be {}, but it is {}", key, shape, list.dump()));

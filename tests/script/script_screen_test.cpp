@@ -294,11 +294,13 @@ TEST_CASE_FIXTURE(Script, "every kind of message offers its buttons from the lef
         {MessageButtons::yes_no, {{"Yes", MessageAnswer::yes}, {"No", MessageAnswer::no}}},
         {MessageButtons::retry_cancel, {{"Retry", MessageAnswer::retry}, {"Cancel", MessageAnswer::cancel}}}};
     for (const auto& [buttons, offered] : kinds) {
-        for (std::uint8_t place = 0; place < offered.size(); ++place) {
-            screen.begin_call({{"answers", json::array({offered[place].first})}});
-            CHECK(screen.message_box({.title = {}, .text = {}, .buttons = buttons}) == offered[place].second);
-            CHECK(screen.message_box({.title = {}, .text = {}, .buttons = buttons, .default_button = place}) ==
-                  offered[place].second);
+        MessageBox message{.title = {}, .text = {}, .buttons = buttons};
+        for (const auto& [text, answer] : offered) {
+            screen.begin_call({{"answers", json::array({text})}});
+            CHECK(screen.message_box(message) == answer);
+            screen.begin_call(json::object());
+            CHECK(screen.message_box(message) == answer);
+            ++message.default_button;
         }
     }
 }

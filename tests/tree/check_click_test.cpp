@@ -37,7 +37,8 @@ struct Books {
                     const std::vector<std::u16string>& sheets) {
         TreeNode& window = add(tree.treQOR.find(u"ROOT"), caption, caption);
         window.set_tag(workbook);
-        for (const auto& sheet : sheets) add(&window, caption + u'*' + sheet, sheet);
+        const std::u16string prefix = caption + u'*';
+        for (const auto& sheet : sheets) add(&window, prefix + sheet, sheet);
     }
     TreeNode& node(std::u16string_view key) { return *tree.treQOR.find(key); }
     void click_at(Pointer place) {

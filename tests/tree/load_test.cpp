@@ -78,6 +78,7 @@ struct Host {
     }
     void open(const std::vector<Book>& books) {
         std::vector<Object> objects;
+        objects.reserve(books.size());
         for (const Book& each : books) objects.push_back(book(each));
         gExcel = make_fake(log, u"Application", [&](FakeObject& fake) {
             fake.holds(names::Workbooks, make_collection(log, u"Workbooks", objects));

@@ -150,7 +150,7 @@ TEST_CASE("check boxes, option groups and text boxes raise their event when thei
     TextBox txtName(form, u"txtName", u"old");
     std::vector<std::u16string> events;
     form.chkSample.on_click = [&] { events.emplace_back(u"check"); };
-    optOrder.on_click = [&](int place) { events.push_back(place == 1 ? u"End" : u"Beginning"); };
+    optOrder.on_click = [&](int place) { events.emplace_back(place == 1 ? u"End" : u"Beginning"); };
     txtName.on_change = [&] { events.push_back(txtName.text()); };
 
     CHECK(optOrder.chosen() == Options::none);
