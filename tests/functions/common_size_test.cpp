@@ -4,27 +4,13 @@
 #include <cmath>
 #include <limits>
 
-#include "functions/registry.hpp"
 #include "platform/text.hpp"
 #include "runtime/rounding.hpp"
+#include "tests/functions/call.hpp"
 
 using namespace qor;
-
-namespace {
-
-double call(std::u16string_view name, std::vector<Variant> arguments) {
-    const Function* function = find_function(name);
-    REQUIRE(function != nullptr);
-    const Variant result = function->invoke(std::move(arguments));
-    REQUIRE(result.is(Variant::Kind::double_float));
-    return *result.get_if<double>();
-}
-
-std::vector<std::u16string_view> parameters_of(std::u16string_view name) {
-    return find_function(name)->parameter_names();
-}
-
-}  // namespace
+using test::call;
+using test::parameters_of;
 
 TEST_CASE("the family is complete") {
     for (const std::u16string_view name :
