@@ -1,8 +1,12 @@
 // What a worksheet function costs: the declared formula directly, and through CCom's late-bound door.
 #include <benchmark/benchmark.h>
 
+#include <array>
+#include <cmath>
+
 #include "bench/ratio_report.hpp"
 #include "core/CCom.hpp"
+#include "core/MMain.hpp"
 #include "functions/registry.hpp"
 #include "platform/ini_settings_store.hpp"
 #include "screens/script/script_screen.hpp"
