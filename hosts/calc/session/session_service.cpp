@@ -1,0 +1,113 @@
+#include "hosts/calc/session/session_service.hpp"
+
+#include <com/sun/star/beans/NamedValue.hpp>
+#include <com/sun/star/lang/XServiceInfo.hpp>
+#include <com/sun/star/task/XJob.hpp>
+#include <cppuhelper/implbase2.hxx>
+#include <cppuhelper/supportsservice.hxx>
+#include <nlohmann/json.hpp>
+
+#include "hosts/calc/adapter/application.hpp"
+#include "hosts/calc/adapter/undo_step.hpp"
+#include "hosts/calc/functions/repair.hpp"
+#include "hosts/calc/session/open_documents.hpp"
+#include "hosts/calc/uno/main_thread.hpp"
+#include "hosts/calc/uno/text.hpp"
+#include "platform/text.hpp"
+#include "screens/script/script_error.hpp"
+#include "screens/script/session/session.hpp"
+
+namespace qor::calc {
+namespace {
+
+namespace beans = com::sun::star::beans;
+namespace lang = com::sun::star::lang;
+namespace task = com::sun::star::task;
+namespace uno = com::sun::star::uno;
+using nlohmann::json;
+using rtl::OUString;
+
+json problem(const char* kind, const std::string& message) {
+    return {{"error", {{"kind", kind}, {"message", message}}}};
+}
+
+SessionHost session_host(const uno::Reference<uno::XComponentContext>& context) {
+    return {
+        .application = make_application(context),
+        .undo_step =
+            [](std::u16string_view title, const std::function<void()>& command) {
+                const UndoStep step{std::u16string(title)};
+                command();
+            },
+        .opened = [context](const std::filesystem::path& file) { repair_function_names(document_of(context, file)); },
+        .moved = [context](const std::filesystem::path& from,
+                           const std::filesystem::path& to) { move_document(document_of(context, from), to); },
+    };
+}
+
+class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XServiceInfo> {
+  public:
+    explicit SessionService(uno::Reference<uno::XComponentContext> context) : context_(std::move(context)) {}
+
+    uno::Any SAL_CALL execute(const uno::Sequence<beans::NamedValue>& arguments) override {
+        const json answer = play(text_in(arguments, "Script"), text_in(arguments, "Folder"));
+        // A transcript may hold text that is no valid Unicode: the cells of a workbook can.
+        return uno::Any(to_uno(from_utf8(answer.dump(-1, ' ', false, json::error_handler_t::replace))));
+    }
+
+    OUString SAL_CALL getImplementationName() override { return "com.ombrel.qorplus.Session"; }
+    sal_Bool SAL_CALL supportsService(const OUString& name) override { return cppu::supportsService(this, name); }
+    uno::Sequence<OUString> SAL_CALL getSupportedServiceNames() override {
+        const OUString service = getImplementationName();
+        return {&service, 1};
+    }
+
+  private:
+    static std::string text_in(const uno::Sequence<beans::NamedValue>& arguments, const char* name) {
+        OUString text;
+        for (const beans::NamedValue& argument : arguments) {
+            if (argument.Name.equalsAscii(name)) argument.Value >>= text;
+        }
+        return to_utf8(view_of(text));
+    }
+
+    // Whatever is thrown becomes an answer: nothing but that crosses into the other process.
+    json play(const std::string& script, const std::string& folder) const {
+        json answer;
+        try {
+            run_on_main_thread(context_, [&] { answer = {{"transcript", play_on_main_thread(script, folder)}}; });
+        } catch (const ScriptError& error) {
+            answer = problem("script", error.what());
+        } catch (const json::exception& error) {
+            answer = problem("script", error.what());
+        } catch (const uno::Exception& error) {
+            answer = problem("host", to_utf8(view_of(error.Message)));
+        } catch (const std::exception& error) {
+            answer = problem("host", error.what());
+        }
+        return answer;
+    }
+
+    json play_on_main_thread(const std::string& script, const std::string& folder) const {
+        std::string temporary = std::filesystem::temp_directory_path() / "qorplus-run-XXXXXX";
+        if (!::mkdtemp(temporary.data())) throw std::runtime_error("no temporary folder can be made as " + temporary);
+        const struct Folder {
+            std::filesystem::path path;
+            ~Folder() {
+                std::error_code ignored;
+                std::filesystem::remove_all(path, ignored);
+            }
+        } run_folder{temporary};
+        return qor::play(json::parse(script), session_host(context_), {folder, run_folder.path});
+    }
+
+    uno::Reference<uno::XComponentContext> context_;
+};
+
+}  // namespace
+
+uno::Reference<uno::XInterface> make_session_service(const uno::Reference<uno::XComponentContext>& context) {
+    return static_cast<cppu::OWeakObject*>(new SessionService(context));
+}
+
+}  // namespace qor::calc

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <com/sun/star/uno/XComponentContext.hpp>
+
+namespace qor::calc {
+
+// The service com.ombrel.qorplus.Session, a com.sun.star.task.XJob that plays a script on the office that it runs in.
+// execute() takes the script's JSON text as "Script" and the folder that relative paths start from as "Folder", and
+// gives a JSON text: {"transcript": ...}, or {"error": {"kind": "script" or "host", "message": ...}}.
+com::sun::star::uno::Reference<com::sun::star::uno::XInterface> make_session_service(
+    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context);
+
+}  // namespace qor::calc

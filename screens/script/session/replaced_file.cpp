@@ -1,0 +1,34 @@
+#include "screens/script/session/replaced_file.hpp"
+
+#include <fmt/format.h>
+
+#include <cstdlib>
+#include <system_error>
+
+#include "screens/script/script_error.hpp"
+
+namespace qor {
+
+ReplacedFile::ReplacedFile(std::filesystem::path target) : target_(std::move(target)) {
+    std::string folder = target_.parent_path() / ".qorplus-XXXXXX";
+    if (!::mkdtemp(folder.data())) {
+        throw ScriptError(fmt::format("nothing can be written in {}: {}", target_.parent_path().string(),
+                                      std::generic_category().message(errno)));
+    }
+    folder_ = folder;
+}
+
+ReplacedFile::~ReplacedFile() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+std::filesystem::path ReplacedFile::replace(const std::filesystem::path& written) const {
+    const std::filesystem::path place = target_.parent_path() / written.filename();
+    std::error_code refused;
+    std::filesystem::rename(written, place, refused);
+    if (refused) throw ScriptError(fmt::format("{} cannot be replaced: {}", place.string(), refused.message()));
+    return place;
+}
+
+}  // namespace qor
