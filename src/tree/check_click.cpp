@@ -80,13 +80,13 @@ void ctlTree::propagate_worksheet(TreeNode& sheet_node) {
     });
     if (sibling_checked) return;
     window_node.set_image(unchecked);
-    if (!is_window_checked(&window_node)) root.set_image(unchecked);
+    if (!is_window_checked()) root.set_image(unchecked);
 }
 
-bool ctlTree::is_window_checked(const TreeNode* except) const {
+bool ctlTree::is_window_checked() const {
     for (std::size_t index = 1; index <= treQOR.count(); ++index) {
         const TreeNode& node = treQOR.node(index);
-        if (node.level() == 2 && node.image() == checked && (!except || node.key() != except->key())) return true;
+        if (node.level() == 2 && node.image() == checked) return true;
     }
     return false;
 }

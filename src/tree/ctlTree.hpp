@@ -50,7 +50,7 @@ class ctlTree {
     void propagate_root(const TreeNode& root);
     void propagate_window(TreeNode& window_node);
     void propagate_worksheet(TreeNode& sheet_node);
-    bool is_window_checked(const TreeNode* except = nullptr) const;
+    bool is_window_checked() const;
 
     bool ShowHiddenWorkbooks = false;
     bool ShowHiddenWorksheets = false;

@@ -47,6 +47,7 @@ TEST_CASE_FIXTURE(Progress, "the panel is flooded by the rounded part, half to e
 TEST_CASE_FIXTURE(Progress, "more than the whole, and a job of nothing, leave the panel as it was") {
     CHECK(percent_at(1, 2) == 50);
     CHECK(percent_at(5, 3) == 50);
+    CHECK(percent_at(101, 100) == 50);
     CHECK(percent_at(1, 0) == 50);
     CHECK(percent_at(1004, 1000) == 100);  // 1.004 rounds to 1
     CHECK(percent_at(2147483647, 1) == 100);
