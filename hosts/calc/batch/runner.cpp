@@ -1,4 +1,4 @@
-// Runs the test cases of the adapter in a LibreOffice of their own. Arguments are doctest's.
+// Starts a LibreOffice of its own, with the add-in, and runs a batch in it. The arguments are the batch's.
 #include <unistd.h>
 
 #include <chrono>
@@ -43,21 +43,21 @@ void give_up_when_late(const fs::path& report) {
     std::thread([report] {
         std::this_thread::sleep_for(longest_run);
         print(report);
-        std::cout << "the test cases did not end in " << longest_run.count() << " minutes" << std::endl;
+        std::cout << "the batch did not end in " << longest_run.count() << " minutes" << std::endl;
         ::_exit(failed_without_report);
     }).detach();
 }
 
-std::int32_t run_cases(calc::PrivateOffice& office, const fs::path& report, std::span<char*> arguments) {
+std::int32_t run_batch(calc::PrivateOffice& office, const fs::path& report, std::span<char*> arguments) {
     css::uno::Sequence<OUString> passed(static_cast<sal_Int32>(arguments.size()));
     std::ranges::transform(arguments, passed.getArray(), text);
     std::int32_t exit_code = failed_without_report;
     office.work([&] {
         const auto context = office.context();
-        const css::uno::Reference<css::task::XJob> cases(
-            context->getServiceManager()->createInstanceWithContext("com.ombrel.qorplus.CalcTests", context),
+        const css::uno::Reference<css::task::XJob> batch(
+            context->getServiceManager()->createInstanceWithContext(QOR_BATCH_SERVICE, context),
             css::uno::UNO_QUERY_THROW);
-        exit_code = calc::value_of<sal_Int32>(cases->execute(calc::sequence_of<css::beans::NamedValue>(
+        exit_code = calc::value_of<sal_Int32>(batch->execute(calc::sequence_of<css::beans::NamedValue>(
             {{"report", css::uno::Any(text(report.native()))}, {"arguments", css::uno::Any(passed)}})));
     });
     return exit_code;
@@ -66,7 +66,7 @@ std::int32_t run_cases(calc::PrivateOffice& office, const fs::path& report, std:
 }  // namespace
 
 int main(int argc, char** argv) {
-    const fs::path report = fs::temp_directory_path() / ("qorplus-calc-report-" + std::to_string(::getpid()) + ".txt");
+    const fs::path report = fs::temp_directory_path() / ("qorplus-batch-report-" + std::to_string(::getpid()) + ".txt");
     int exit_code = failed_without_report;
     try {
 #ifdef QOR_SANITIZER
@@ -74,10 +74,10 @@ int main(int argc, char** argv) {
         // LibreOffice does not free at its end, and handles signals itself.
         ::setenv("ASAN_OPTIONS", ("detect_leaks=0:handle_segv=0:log_path=" + report.string()).c_str(), 1);
 #endif
-        const std::vector<fs::path> components{QOR_CALC_TESTS};
+        const std::vector<fs::path> components{QOR_BATCH_COMPONENTS, QOR_EXTENSION_COMPONENTS};
         calc::PrivateOffice office(calc::office_program_folder(), components);
         give_up_when_late(report);
-        exit_code = run_cases(office, report, {argv, static_cast<std::size_t>(argc)});
+        exit_code = run_batch(office, report, {argv, static_cast<std::size_t>(argc)});
         print(report);
     } catch (const calc::OfficeError& error) {
         print(report);
