@@ -31,9 +31,17 @@ CivilTime to_civil(Date date) {
 }
 
 Date to_date(year_month_day day, seconds time_of_day) {
-    const auto serial = static_cast<double>((sys_days{day} - day_zero).count());
-    const double fraction = static_cast<double>(time_of_day.count()) / seconds_per_day;
-    return {serial < 0 ? serial - fraction : serial + fraction};
+    return to_date((sys_days{day} - day_zero).count(), static_cast<double>(time_of_day.count()) / seconds_per_day);
+}
+
+seconds to_seconds(const CivilTime& civil) {
+    return (sys_days{civil.day} - day_zero) + civil.time.to_duration();
+}
+
+Date to_date(std::int64_t day, double fraction) {
+    const auto serial = static_cast<double>(day);
+    if (!(serial >= first_serial && serial <= last_serial)) throw Error(ErrorNumber::invalid_call);
+    return {day < 0 ? serial - fraction : serial + fraction};
 }
 
 }  // namespace qor

@@ -24,4 +24,10 @@ CivilTime to_civil(Date date);
 // The time of day is below 24 hours. It moves a date before 30 December 1899 away from 0, as the serial rule has it.
 Date to_date(std::chrono::year_month_day day, std::chrono::seconds time_of_day = {});
 
+// Date and time of day, of a moment counted from midnight of 30 December 1899.
+std::chrono::seconds to_seconds(const CivilTime& civil);
+// The day by its serial number and the time of day as a fraction of a day, from 0 to below 1. Raises 5 outside of the
+// calendar.
+Date to_date(std::int64_t day, double fraction);
+
 }  // namespace qor

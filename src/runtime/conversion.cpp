@@ -2,10 +2,12 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <type_traits>
 
 #include "platform/text.hpp"
 #include "runtime/calendar.hpp"
+#include "runtime/date_text.hpp"
 #include "runtime/format_date.hpp"
 #include "runtime/number_text.hpp"
 
@@ -134,6 +136,9 @@ Currency to_currency(const Variant& value) {
 }
 
 Date to_date(const Variant& value) {
+    if (const auto* text = value.get_if<std::u16string>()) {
+        if (const std::optional<Date> shown = parse_date(*text)) return *shown;
+    }
     const Date date{to_double(value)};
     if (!is_in_calendar(date)) throw Error(ErrorNumber::overflow);
     return date;

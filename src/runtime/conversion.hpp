@@ -17,7 +17,7 @@ std::int32_t to_long(const Variant& value);
 float to_single(const Variant& value);
 double to_double(const Variant& value);
 Currency to_currency(const Variant& value);  // to ten-thousandths, half to even
-Date to_date(const Variant& value);          // 1 January 100 to 31 December 9999; text must be a serial number
+Date to_date(const Variant& value);          // 1 January 100 to 31 December 9999; text as parse_date reads it, too
 
 // Numbers in 15 significant digits (singles in 7) with a decimal point, dates as "3/15/2004 1:05:00 PM" without a time
 // that is midnight or a day that is 30 December 1899, booleans as "True" and "False", errors as "Error 2007".

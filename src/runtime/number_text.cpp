@@ -7,46 +7,11 @@
 #include <limits>
 #include <optional>
 
+#include "runtime/locale.hpp"
+#include "runtime/text_reader.hpp"
+
 namespace qor {
 namespace {
-
-constexpr bool is_blank(char16_t c) {
-    return c == u' ' || (c >= u'\t' && c <= u'\r');
-}
-
-constexpr bool is_digit(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
-
-constexpr char16_t upper(char16_t c) {
-    return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
-}
-
-class Reader {
-  public:
-    explicit Reader(std::u16string_view text) : rest_(text) {}
-
-    bool at_end() const { return rest_.empty(); }
-    bool at_digit() const { return !at_end() && is_digit(rest_.front()); }
-    bool at(std::u16string_view choices) const {
-        return !at_end() && choices.find(upper(rest_.front())) != std::u16string_view::npos;
-    }
-    char16_t take() {
-        const char16_t c = rest_.front();
-        rest_.remove_prefix(1);
-        return c;
-    }
-    std::optional<char16_t> take_if(std::u16string_view choices) {
-        if (!at(choices)) return std::nullopt;
-        return upper(take());
-    }
-    void skip_blanks() {
-        while (!at_end() && is_blank(rest_.front())) take();
-    }
-
-  private:
-    std::u16string_view rest_;
-};
 
 // A number without its decoration: the value is ±digits × 10^exponent.
 struct Decimal {
@@ -59,7 +24,7 @@ struct Decimal {
     throw Error(ErrorNumber::type_mismatch);
 }
 
-int parse_exponent(Reader& reader) {
+int parse_exponent(TextReader& reader) {
     constexpr int beyond_every_number = 1'000'000;
     const bool negative = reader.take_if(u"+-") == u'-';
     if (!reader.at_digit()) mismatch();
@@ -68,32 +33,63 @@ int parse_exponent(Reader& reader) {
     return negative ? -exponent : exponent;
 }
 
-Decimal parse_decimal(std::u16string_view text) {
-    Decimal number;
-    Reader reader(text);
-    reader.skip_blanks();
-    const bool parenthesis = reader.take_if(u"(").has_value();
-    const std::optional<char16_t> sign = parenthesis ? std::nullopt : reader.take_if(u"+-");
-    number.negative = parenthesis || sign == u'-';
-    reader.skip_blanks();
-    while (reader.at_digit() || (!number.digits.empty() && reader.at(u","))) {
-        const char16_t c = reader.take();
-        if (c != u',') number.digits += static_cast<char>(c);
+constexpr bool is_fixed_blank(char16_t c) {
+    return c == u'\u00A0' || c == u'\u202F';
+}
+
+bool take_thousands_separator(TextReader& reader, char16_t separator) {
+    const bool is_next = !reader.at_end() &&
+                         (reader.next() == separator || (is_fixed_blank(separator) && is_fixed_blank(reader.next())));
+    if (is_next) reader.take();
+    return is_next;
+}
+
+// What may stand around the digits, each once and in any order: the sign of the number and that of the currency.
+struct Decoration {
+    bool parenthesis = false;
+    std::optional<char16_t> sign;
+    bool currency = false;
+
+    void take(TextReader& reader, std::u16string_view currency_sign) {
+        for (;;) {
+            reader.skip_blanks();
+            if (!currency && reader.take_text(currency_sign)) {
+                currency = true;
+            } else if (!sign && !parenthesis && reader.at(u"+-")) {
+                sign = reader.take();
+            } else {
+                return;
+            }
+        }
     }
-    if (reader.take_if(u".")) {
-        while (reader.at_digit()) {
+};
+
+Decimal parse_decimal(std::u16string_view text) {
+    const Locale& country = locale();
+    Decimal number;
+    TextReader reader(text);
+    reader.skip_blanks();
+    Decoration decoration;
+    decoration.parenthesis = reader.take_if(u"(").has_value();
+    decoration.take(reader, country.currency_sign);
+    // The host's parser lets a separator stand among the decimal places, too.
+    bool is_behind_point = false;
+    for (;;) {
+        if (reader.at_digit()) {
             number.digits += static_cast<char>(reader.take());
-            --number.exponent;
+            if (is_behind_point) --number.exponent;
+        } else if (!is_behind_point && !reader.at_end() && reader.next() == country.decimal_point) {
+            reader.take();
+            is_behind_point = true;
+        } else if (number.digits.empty() || !take_thousands_separator(reader, country.thousands_separator)) {
+            break;
         }
     }
     if (number.digits.empty()) mismatch();
     if (reader.take_if(u"ED")) number.exponent += parse_exponent(reader);
-    reader.skip_blanks();
-    if (parenthesis) {
-        if (!reader.take_if(u")")) mismatch();
-    } else if (!sign) {
-        number.negative = reader.take_if(u"+-") == u'-';
-    }
+    decoration.take(reader, country.currency_sign);
+    if (decoration.parenthesis && !reader.take_if(u")")) mismatch();
+    number.negative = decoration.parenthesis || decoration.sign == u'-';
     reader.skip_blanks();
     if (!reader.at_end()) mismatch();
     return number;
@@ -101,7 +97,7 @@ Decimal parse_decimal(std::u16string_view text) {
 
 // The literal's value, nothing if the text is none.
 std::optional<double> parse_literal(std::u16string_view text) {
-    Reader reader(text);
+    TextReader reader(text);
     reader.skip_blanks();
     if (!reader.take_if(u"&")) return std::nullopt;
     const std::optional<char16_t> mark = reader.take_if(u"HO");
@@ -132,8 +128,11 @@ double to_float(const Decimal& number) {
     return number.negative ? -value : value;
 }
 
-std::u16string widened(std::string_view ascii) {
-    return {ascii.begin(), ascii.end()};
+// Text of the number, whose point becomes the locale's.
+std::u16string shown(std::string_view ascii) {
+    std::u16string text(ascii.begin(), ascii.end());
+    std::ranges::replace(text, u'.', locale().decimal_point);
+    return text;
 }
 
 // From "d.ddde±xx" in so many digits.
@@ -160,11 +159,11 @@ std::u16string general_text(Float value) {
     if (exponent < -4 || exponent >= significant_digits) {
         if (count > 1) digits.insert(1, 1, '.');
         const std::string power = std::to_string(std::abs(exponent));
-        return widened(sign + digits + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power);
+        return shown(sign + digits + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power);
     }
     if (exponent < 0) {
         digits.insert(0, static_cast<std::size_t>(-exponent - 1), '0');
-        return widened(sign + "0." + digits);
+        return shown(sign + "0." + digits);
     }
     const int whole_count = exponent + 1;
     if (count <= whole_count) {
@@ -172,7 +171,7 @@ std::u16string general_text(Float value) {
     } else {
         digits.insert(static_cast<std::size_t>(whole_count), 1, '.');
     }
-    return widened(sign + digits);
+    return shown(sign + digits);
 }
 
 }  // namespace
@@ -229,7 +228,7 @@ std::u16string number_text(Currency value) {
         fraction.erase(fraction.find_last_not_of('0') + 1);
         text += fraction;
     }
-    return widened(text);
+    return shown(text);
 }
 
 }  // namespace qor

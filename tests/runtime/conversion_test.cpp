@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "runtime/calendar.hpp"
+#include "runtime/value_tests.hpp"
+#include "tests/runtime/country.hpp"
 #include "tests/runtime/raised.hpp"
 
 using namespace qor;
@@ -57,6 +59,14 @@ TEST_CASE("text converts to the number that it shows") {
              {u"5.", 5},
              {u"1,234,567.5", 1234567.5},
              {u"1,2", 12},
+             {u"1,,000", 1000},
+             {u"1,234.5,6", 1234.56},
+             {u"$1,234.50", 1234.5},
+             {u"-$5", -5},
+             {u"$-5", -5},
+             {u"($5)", -5},
+             {u"5$", 5},
+             {u"5 $ -", -5},
              {u"1e3", 1000},
              {u"1E-3", .001},
              {u"1D2", 100},
@@ -81,13 +91,51 @@ TEST_CASE("text converts to the number that it shows") {
 
 TEST_CASE("text that shows no number is a type mismatch") {
     for (const std::u16string_view text :
-         {u"",     u" ",   u"abc", u"1a",     u"1 2",   u",1",     u"1.2.3", u"--1",  u"-1-",
-          u"(-1)", u"(1",  u"1)",  u"1E",     u"1E+",   u".",      u"-",     u"True", u"&",
-          u"&H",   u"&HG", u"&O8", u"&HFF x", u"1.5,0", u"\u0661", u"nan",   u"inf",  u"0x10"}) {
+         {u"$",   u"$$5",  u"$5$",   u"5%",  u"-5-", u",5",   u"(5-)",   u"",       u" ",   u"abc", u"1a",
+          u"1 2", u",1",   u"1.2.3", u"--1", u"-1-", u"(-1)", u"(1",     u"1)",     u"1E",  u"1E+", u".",
+          u"-",   u"True", u"&",     u"&H",  u"&HG", u"&O8",  u"&HFF x", u"\u0661", u"nan", u"inf", u"0x10"}) {
         CHECK(raised([&] { return to_double(text); }) == 13);
     }
     CHECK(raised([] { return to_double(u"1E400"); }) == 6);
     CHECK(raised([] { return to_double(u"&H100000000"); }) == 6);
+}
+
+TEST_CASE("whether a value is a number") {
+    for (const Variant& value : std::vector<Variant>{1, 1.5, Currency{1}, true, Empty{}, u"&H1F", u"$1,000", u" (5) ",
+                                                     u"1E5", u"+7", u"1,234.5,6"}) {
+        CHECK(is_numeric(value));
+    }
+    for (const Variant& value : std::vector<Variant>{Date{1}, u"", u"abc", u"1/2/2003", u"1E400", Null{}, Missing{},
+                                                     ErrorValue{2007}, Object(), Array::list({1})}) {
+        CHECK_FALSE(is_numeric(value));
+    }
+}
+
+TEST_CASE("numbers read and show with the country's signs") {
+    const test::Country country(test::german_locale());
+    CHECK(to_double(u"1.234,5") == 1234.5);
+    CHECK(to_double(u"1,5 €") == 1.5);
+    CHECK(raised([] { return to_double(u"$5"); }) == 13);
+    CHECK((to_text(1.5) == u"1,5"));
+    CHECK((to_text(Currency{12345}) == u"1,2345"));
+    CHECK((to_text(1e-7) == u"1E-07"));
+    Locale french = english_locale();
+    french.decimal_point = u',';
+    french.thousands_separator = u'\u202F';
+    const test::Country other(french);
+    CHECK(to_double(u"1\u00A0234,5") == 1234.5);
+}
+
+TEST_CASE("text of a date is that date") {
+    const test::Country country(english_locale());
+    CHECK(to_date(u"3/15/2004").serial == 38061);
+    CHECK(to_date(u"March 15, 2004 6 PM").serial == 38061.75);
+    CHECK(to_date(u"12:00").serial == 0.5);
+    CHECK(to_date(u"38061").serial == 38061);
+    CHECK(to_date(u"38061.25").serial == 38061.25);
+    CHECK(raised([] { return to_date(u"2/30/2004"); }) == 13);
+    CHECK(raised([] { return to_date(u"2958466"); }) == 6);
+    CHECK(raised([] { return to_double(u"3/15/2004"); }) == 13);
 }
 
 TEST_CASE("what is no value raises the run time's numbers") {
