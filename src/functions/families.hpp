@@ -8,5 +8,12 @@
 namespace qor {
 
 std::vector<FunctionDeclaration> common_size_functions();
+std::vector<FunctionDeclaration> turnover_and_liquidity_functions();
+std::vector<FunctionDeclaration> profitability_functions();
+std::vector<FunctionDeclaration> cash_flow_functions();
+std::vector<FunctionDeclaration> business_failure_functions();
+std::vector<FunctionDeclaration> factory_cost_functions();
+std::vector<FunctionDeclaration> variance_functions();
+std::vector<FunctionDeclaration> break_even_and_leverage_functions();
 
 }  // namespace qor

@@ -12,7 +12,11 @@
 namespace qor {
 namespace {
 
-constexpr std::array families{common_size_functions};
+constexpr std::array families{
+    common_size_functions, turnover_and_liquidity_functions,  profitability_functions,
+    cash_flow_functions,   business_failure_functions,        factory_cost_functions,
+    variance_functions,    break_even_and_leverage_functions,
+};
 
 std::unordered_map<std::u16string_view, FunctionDeclaration> declared_functions() {
     std::unordered_map<std::u16string_view, FunctionDeclaration> declarations;

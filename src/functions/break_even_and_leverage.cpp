@@ -1,0 +1,61 @@
+#include "functions/families.hpp"
+
+// The contribution of sales, the sales that cover the fixed costs, and how earnings follow them.
+namespace qor {
+
+std::vector<FunctionDeclaration> break_even_and_leverage_functions() {
+    return {
+        {.name = u"BEPD",
+         .help_id = 100110,
+         .description = u"Returns the Break Even Point in Dollars.",
+         .parameters = {u"dFC", u"dCMR", u"dTrgtNI"},
+         .formula = [](Checked dFC, Checked dCMR, Checked dTrgtNI) { return (dFC + dTrgtNI) / dCMR; },
+         .examples = {{{100, 0.25, 20}, 480.0}}},
+        {.name = u"BEPU",
+         .help_id = 100115,
+         .description = u"Returns the Break Even Point in Units.",
+         .parameters = {u"dFC", u"dCM"},
+         .formula = [](Checked dFC, Checked dCM) { return dFC / dCM; },
+         .examples = {{{500, 4}, 125.0}}},
+        {.name = u"CM",
+         .help_id = 100155,
+         .description = u"Returns the Contribution Margin.",
+         .parameters = {u"dNetSales", u"dVC"},
+         .formula = [](Checked dNetSales, Checked dVC) { return dNetSales - dVC; },
+         .examples = {{{900, 540}, 360.0}}},
+        {.name = u"CMR",
+         .help_id = 100160,
+         .description = u"Returns the Contribution Margin Ratio.",
+         .parameters = {u"dCM", u"dNetSales"},
+         .formula = [](Checked dCM, Checked dNetSales) { return dCM / dNetSales; },
+         .examples = {{{360, 900}, 0.4}}},
+        {.name = u"MS",
+         .help_id = 100470,
+         .description = u"Returns the Margin of Safety.",
+         .parameters = {u"dBdgtNS", u"dBrkEvnNS"},
+         .formula = [](Checked dBdgtNS, Checked dBrkEvnNS) { return (dBdgtNS - dBrkEvnNS) / dBdgtNS; },
+         .examples = {{{1000, 750}, 0.25}}},
+        {.name = u"DCL",
+         .help_id = 100225,
+         .description = u"Returns the Degree of Combined Leverage Ratio.",
+         .parameters = {u"dDOL", u"dDFL"},
+         .formula = [](Checked dDOL, Checked dDFL) { return dDOL * dDFL; },
+         .examples = {{{1.5, 2}, 3.0}}},
+        {.name = u"DFL",
+         .help_id = 100230,
+         .description = u"Returns the Degree of Financial Leverage Ratio.",
+         .parameters = {u"dFrmEPS", u"dToEPS", u"dFrmEBIT", u"dToEBIT"},
+         .formula = [](Checked dFrmEPS, Checked dToEPS, Checked dFrmEBIT,
+                       Checked dToEBIT) { return ((dToEPS - dFrmEPS) / dFrmEPS) / ((dToEBIT - dFrmEBIT) / dFrmEBIT); },
+         .examples = {{{2, 2.5, 100, 110}, 2.5}}},
+        {.name = u"DOL",
+         .help_id = 100235,
+         .description = u"Returns the Degree of Operating Leverage Ratio.",
+         .parameters = {u"dFrmEBIT", u"dToEBIT", u"dFrmNS", u"dToNS"},
+         .formula = [](Checked dFrmEBIT, Checked dToEBIT, Checked dFrmNS,
+                       Checked dToNS) { return ((dToEBIT - dFrmEBIT) / dFrmEBIT) / ((dToNS - dFrmNS) / dFrmNS); },
+         .examples = {{{100, 130, 400, 480}, 1.5}}},
+    };
+}
+
+}  // namespace qor
