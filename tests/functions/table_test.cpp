@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "functions/registration_order.hpp"
 #include "functions/registry.hpp"
@@ -48,6 +49,35 @@ constexpr ValueKind kind_by_prefix(char16_t prefix) {
         default:
             return ValueKind::variant;
     }
+}
+
+bool is_required_number(const Parameter& parameter) {
+    const bool is_number = parameter.kind == ValueKind::number || parameter.kind == ValueKind::whole_number;
+    return is_number && !parameter.is_optional();
+}
+
+bool is_changed_by_exchange(const Function& function, std::vector<Variant> arguments, std::size_t left,
+                            std::size_t right) {
+    const Variant result = function.invoke(arguments);
+    std::swap(arguments[left], arguments[right]);
+    return !equals(result, function.invoke(std::move(arguments)));
+}
+
+// A sum or a product does not tell its terms apart, and neither does an average.
+bool are_exchangeable(const Function& function, std::size_t left, std::size_t right) {
+    if (!is_required_number(function.parameters[left]) || !is_required_number(function.parameters[right])) return true;
+    std::vector<Variant> arguments;
+    for (std::size_t place = 0; place < function.parameters.size(); ++place) {
+        if (function.parameters[place].is_optional()) break;
+        arguments.emplace_back(static_cast<double>(3 + place * place));
+    }
+    return !is_changed_by_exchange(function, std::move(arguments), left, right);
+}
+
+bool is_told_apart(const Function& function, std::size_t left, std::size_t right) {
+    return std::ranges::any_of(function.examples, [&](const Example& example) {
+        return is_changed_by_exchange(function, example.arguments, left, right);
+    });
 }
 
 }  // namespace
@@ -119,6 +149,20 @@ TEST_CASE("every example comes out") {
             INFO(to_utf8(function.name), " gives ", to_utf8(to_text(result)));
             CHECK(result.kind() == example.result.kind());
             CHECK(equals(result, example.result));
+        }
+    }
+}
+
+TEST_CASE("the examples show which argument is which") {
+    for (const Function& function : worksheet_functions()) {
+        for (std::size_t left = 0; left < function.parameters.size(); ++left) {
+            for (std::size_t right = left + 1; right < function.parameters.size(); ++right) {
+                if (!are_exchangeable(function, left, right)) {
+                    INFO(to_utf8(function.name), ": ", to_utf8(function.parameters[left].name), " and ",
+                         to_utf8(function.parameters[right].name));
+                    CHECK(is_told_apart(function, left, right));
+                }
+            }
         }
     }
 }
