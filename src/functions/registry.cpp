@@ -13,9 +13,20 @@ namespace qor {
 namespace {
 
 constexpr std::array families{
-    common_size_functions, turnover_and_liquidity_functions,  profitability_functions,
-    cash_flow_functions,   business_failure_functions,        factory_cost_functions,
-    variance_functions,    break_even_and_leverage_functions,
+    common_size_functions,
+    turnover_and_liquidity_functions,
+    profitability_functions,
+    cash_flow_functions,
+    business_failure_functions,
+    factory_cost_functions,
+    variance_functions,
+    break_even_and_leverage_functions,
+    shares_and_market_functions,
+    rate_of_return_functions,
+    interest_and_present_value_functions,
+    option_and_right_functions,
+    inventory_and_cash_functions,
+    workforce_functions,
 };
 
 std::unordered_map<std::u16string_view, FunctionDeclaration> declared_functions() {
@@ -57,6 +68,17 @@ std::unordered_map<std::u16string, const Function*> functions_by_upper_name() {
 
 std::span<const Function> worksheet_functions() {
     static const std::vector<Function> functions = functions_in_order();
+    return functions;
+}
+
+std::span<const Function> reserved_functions() {
+    static const std::vector<Function> functions = [] {
+        std::vector<Function> reserved;
+        for (FunctionDeclaration& declaration : reserved_name_functions()) {
+            reserved.emplace_back(std::move(declaration), Category::financial);
+        }
+        return reserved;
+    }();
     return functions;
 }
 
