@@ -57,8 +57,8 @@ void add_tools(std::vector<Row>& rows) {
     }
 }
 
-void add_functions(std::vector<Row>& rows) {
-    for (const Function& function : worksheet_functions()) {
+void add_functions(std::vector<Row>& rows, std::span<const Function> functions) {
+    for (const Function& function : functions) {
         rows.push_back({.name = function.member,
                         .accesses = accesses::callable,
                         .parameters = function.parameter_names(),
@@ -76,7 +76,8 @@ const MemberTable<CCom>& CCom::members() {
         add_state(rows);
         add_plain_members(rows);
         add_tools(rows);
-        add_functions(rows);
+        add_functions(rows, worksheet_functions());
+        add_functions(rows, reserved_functions());
         return rows;
     }());
     return table;

@@ -247,6 +247,33 @@ TEST_CASE("every worksheet function is a member with its parameters' names") {
     }
 }
 
+TEST_CASE("a parameter by reference goes back through the add-in to the caller") {
+    Installation installation;
+    const Object com = make_object<CCom>();
+    const MemberName EPS(u"EPS"), DP(u"DP");
+    std::vector<Variant> arguments{u"1000", u"300", u"100"};
+    CHECK(*com.invoke(EPS, Access::call, {arguments, {}}).get_if<double>() == 3);
+    CHECK(text_of(arguments[0]) == u"1000");
+    REQUIRE(arguments[2].get_if<double>());
+    CHECK(*arguments[2].get_if<double>() == 100);
+    CHECK(*com.call(EPS, 1000, 400).get_if<double>() == 2.5);
+    CHECK(*com.call(EPS, 1000, 400, Missing{}, 0).get_if<double>() == 2);
+
+    arguments = {u"30", u"160", u"10"};
+    CHECK(*com.invoke(DP, Access::call, {arguments, {}}).get_if<double>() == 0.2);
+    CHECK(text_of(arguments[2]) == u"10");
+}
+
+TEST_CASE("reserved names are members too and give 0") {
+    Installation installation;
+    const Object com = make_object<CCom>();
+    const MemberName MACRS(u"Macrs"), SEC179(u"SEC179");
+    CHECK(*com.call(MACRS, 1, 2, 3, 4, 5, 6, 7, 8, u"1/1/2001", 10, Empty{}).get_if<double>() == 0);
+    CHECK(*com.call(SEC179, 1000, 50, 2004, 1, 2, 3, named(MemberName(u"lDecPlace"), -1)).get_if<double>() == 0);
+    CHECK(attempt([&] { com.call(SEC179, 1000, 50, 2004, 1, 2); }) == 449);
+    CHECK(attempt([&] { com.call(SEC179, 1, 2, 3, 4, 5, 6, 7, 8); }) == 450);
+}
+
 TEST_CASE("every member of the table has a name of its own") {
     const auto& rows = CCom::members().rows();
     for (const auto& row : rows) CHECK(CCom::members().find(MemberName(row.name)) == &row);
