@@ -16,6 +16,27 @@ const char* kind_name(Variant::Kind kind) {
 
 }  // namespace
 
+bool operator==(const Variant& left, const Variant& right) {
+    if (left.kind() != right.kind()) return false;
+    if (const Array* array = left.array()) {
+        const Array* other = right.array();
+        if (array->rows() != other->rows() || array->columns() != other->columns()) return false;
+        for (std::size_t i = 0; i < array->size(); ++i) {
+            if (!(array->at(i) == other->at(i))) return false;
+        }
+        return true;
+    }
+    return left.visit([&](const auto& value) {
+        using Value = std::remove_cvref_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, Object>)
+            return value.is(*right.get_if<Value>());
+        else if constexpr (std::is_same_v<Value, std::shared_ptr<const Array>>)
+            return false;
+        else
+            return value == *right.get_if<Value>();
+    });
+}
+
 std::ostream& operator<<(std::ostream& out, const Variant& value) {
     out << kind_name(value.kind()) << ' ';
     if (const auto* text = value.get_if<std::u16string>()) return out << '"' << to_utf8(*text) << '"';
@@ -73,27 +94,6 @@ Object Calc::reopened(const Object& book, const char* file_name) const {
     book.call(names::SaveAs, from_utf8(path.string()));
     book.call(names::Close, false);
     return open(path);
-}
-
-bool same(const Variant& left, const Variant& right) {
-    if (left.kind() != right.kind()) return false;
-    if (const Array* array = left.array()) {
-        const Array* other = right.array();
-        if (array->rows() != other->rows() || array->columns() != other->columns()) return false;
-        for (std::size_t i = 0; i < array->size(); ++i) {
-            if (!same(array->at(i), other->at(i))) return false;
-        }
-        return true;
-    }
-    return left.visit([&](const auto& value) {
-        using Value = std::remove_cvref_t<decltype(value)>;
-        if constexpr (std::is_same_v<Value, Object>)
-            return value.is(*right.get_if<Value>());
-        else if constexpr (std::is_same_v<Value, std::shared_ptr<const Array>>)
-            return false;
-        else
-            return value == *right.get_if<Value>();
-    });
 }
 
 std::string utf8(const Variant& text) {

@@ -10,6 +10,8 @@
 
 namespace qor {
 
+// Of the same kind and the same value; arrays by their elements.
+bool operator==(const Variant& left, const Variant& right);
 // How doctest shows a value that is not as expected.
 std::ostream& operator<<(std::ostream& out, const Variant& value);
 
@@ -41,9 +43,6 @@ class Calc {
   private:
     std::filesystem::path folder_;
 };
-
-// Same kind and same value; arrays by their elements.
-bool same(const Variant& left, const Variant& right);
 
 std::string utf8(const Variant& text);
 

@@ -1,11 +1,11 @@
 #include "hosts/calc/adapter/application.hpp"
 
+#include <pwd.h>
 #include <unistd.h>
 
 #include <com/sun/star/configuration/theDefaultProvider.hpp>
 #include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/sheet/XCalculatable.hpp>
-#include <cstdlib>
 
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/objects.hpp"
@@ -89,9 +89,8 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
         const std::u16string family = part("sn");
         if (!given.empty() && !family.empty()) return given + u" " + family;
         if (!given.empty() || !family.empty()) return given + family;
-        const char* login = ::getlogin();
-        if (!login) login = std::getenv("USER");
-        return from_utf8(login ? login : "");
+        const passwd* account = ::getpwuid(::geteuid());
+        return from_utf8(account ? account->pw_name : "");
     }
 
     std::u16string version() {

@@ -30,7 +30,9 @@ class CalcObject : public Dispatch {
         const auto* same_kind = dynamic_cast<const Self*>(&other);
         if (!same_kind) return false;
         if constexpr (requires(const Self& object) { object.identity(); }) {
-            return self().identity() == same_kind->identity();
+            bool same = false;
+            attempt([&] { guarded([&] { same = self().identity() == same_kind->identity(); }); });
+            return same;
         } else {
             return this == &other;
         }

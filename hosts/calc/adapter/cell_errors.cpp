@@ -16,13 +16,18 @@ struct Code {
     std::int32_t calc;
     std::int32_t excel;
 };
-constexpr std::array codes{Code{521, 2000}, Code{532, 2007}, Code{519, 2015},  Code{524, 2023},
-                           Code{525, 2029}, Code{503, 2036}, Code{32767, 2042}};
+// The office tells invalid arguments and a calculation that does not converge from a number that is too large.
+constexpr std::array codes{Code{521, 2000}, Code{532, 2007}, Code{519, 2015}, Code{524, 2023},  Code{525, 2029},
+                           Code{503, 2036}, Code{502, 2036}, Code{523, 2036}, Code{32767, 2042}};
 
-std::int32_t excel_code(std::int32_t calc_code) {
-    constexpr std::int32_t value_error = 2015;  // Excel knows no other errors
-    const auto* row = std::ranges::find(codes, calc_code, &Code::calc);
-    return row == codes.end() ? value_error : row->excel;
+std::int32_t code_of(const Ref<css::table::XCell>& cell) {
+    const auto* row = std::ranges::find(codes, cell->getError(), &Code::calc);
+    if (row != codes.end()) return row->excel;
+    // A reference to a deleted sheet gives different errors.
+    constexpr std::int32_t reference_error = 2023;
+    constexpr std::int32_t value_error = 2015;
+    const rtl::OUString formula = cell->getFormula();
+    return view_of(formula).find(u"#REF!") != std::u16string_view::npos ? reference_error : value_error;
 }
 
 using Position = std::pair<std::int32_t, std::int32_t>;
@@ -37,6 +42,7 @@ std::set<Position> cells_showing(const Cells& cells, const rtl::OUString& text) 
     constexpr sal_Int16 in_values = 1;
     set_property(Ref{search}, "SearchType", in_values);
     set_property(Ref{search}, "SearchWords", true);
+    set_property(Ref{search}, "SearchFormatted", true);
     std::set<Position> result;
     const Ref<css::sheet::XSheetCellRanges> found(Ref{searchable->findAll(search)});
     if (!found) return result;
@@ -66,7 +72,7 @@ std::vector<CellError> cell_errors(const Cells& cells, const css::uno::Sequence<
         const auto [column, row] = open.back();
         open.pop_back();
         const Ref cell{cells->getCellByPosition(column - origin.left, row - origin.top)};
-        const std::int32_t code = excel_code(cell->getError());
+        const std::int32_t code = code_of(cell);
         result.push_back({column, row, code});
         if (!searching || open.size() < few) continue;
         const std::set<Position> alike = cells_showing(cells, Ref<css::text::XTextRange>(cell)->getString());

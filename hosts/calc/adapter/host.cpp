@@ -21,6 +21,7 @@ std::vector<Document> Host::documents() const {
         Document document(elements->nextElement());
         if (document && std::ranges::find(result, document) == result.end()) result.push_back(std::move(document));
     }
+    std::ranges::reverse(result);  // the newest comes first
     return result;
 }
 

@@ -1,8 +1,12 @@
+#include <com/sun/star/sheet/XSheetAnnotationAnchor.hpp>
+#include <com/sun/star/sheet/XSheetAnnotations.hpp>
+#include <com/sun/star/sheet/XSheetAnnotationsSupplier.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 
 #include "hosts/calc/adapter/cell_reader.hpp"
+#include "hosts/calc/adapter/cell_writer.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
-#include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/adapter/write_guard.hpp"
 
 namespace qor::calc {
 
@@ -57,6 +61,43 @@ Variant RangeObject::text() {
         }
     }
     return from_uno(*shown);
+}
+
+void RangeObject::set_value(const Variant& value) {
+    write_values(areas_, value);
+}
+
+void RangeObject::set_formula_array(const std::u16string& formula) {
+    write_array_formula(areas_, formula);
+}
+
+void RangeObject::clear_contents() {
+    qor::calc::clear_contents(areas_);
+}
+
+// Nothing when the first cell has none: the office hands out an empty one.
+Object RangeObject::comment() {
+    const Rectangle area = areas_.rectangle();
+    const Ref<css::sheet::XSheetAnnotationAnchor> cell(Ref{areas_.areas.front()->getCellByPosition(0, 0)});
+    const Ref annotation{cell->getAnnotation()};
+    if (Ref<css::text::XTextRange>(annotation)->getString().isEmpty()) return {};
+    return make_comment(areas_.sheet, {0, area.left, area.top});
+}
+
+Object RangeObject::add_comment(std::optional<std::u16string> text) {
+    const Rectangle area = areas_.rectangle();
+    if (comment()) throw Error(ErrorNumber::host_refused);
+    before_formatting(areas_);
+    const css::table::CellAddress cell{static_cast<sal_Int16>(areas_.sheet.index()), area.left, area.top};
+    const Ref<css::sheet::XSheetAnnotationsSupplier> supplier(areas_.sheet.sheet);
+    Ref {
+        supplier->getAnnotations()
+        } -> insertNew(cell, to_uno(text.value_or(u" ")));
+    return make_comment(areas_.sheet, cell);
+}
+
+Object RangeObject::hyperlinks() {
+    return make_hyperlinks(areas_);
 }
 
 }  // namespace qor::calc

@@ -103,9 +103,11 @@ void select_sheets(const Book& book, std::vector<std::int32_t> indices, bool rep
 
 void activate_sheet(const Sheet& sheet) {
     const Ref<css::sheet::XSpreadsheetView> view(Ref{sheet.book.model()->getCurrentController()});
-    if (Ref{view->getActiveSheet()} == sheet.sheet) return;
+    const auto active_index = [&] { return Sheet{sheet.book, view->getActiveSheet()}.index(); };
+    const std::int32_t index = sheet.index();
+    if (active_index() == index) return;
     view->setActiveSheet(sheet.sheet.reference());
-    if (!(Ref{view->getActiveSheet()} == sheet.sheet)) throw Error(ErrorNumber::host_refused);
+    if (active_index() != index) throw Error(ErrorNumber::host_refused);
 }
 
 Object selection_of(const Book& book, const Controller& controller) {

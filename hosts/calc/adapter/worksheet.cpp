@@ -28,7 +28,8 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
 
     static const MemberTable<WorksheetObject>& members();
 
-    Identity identity() const { return Identity(sheet_.sheet.reference(), css::uno::UNO_QUERY); }
+    // The office makes a new object each time that a sheet is asked for.
+    auto identity() const { return std::pair(sheet_.book.document, sheet_.index()); }
 
   private:
     std::u16string name() { return sheet_.name(); }

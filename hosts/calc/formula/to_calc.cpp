@@ -246,6 +246,24 @@ class ToCalc {
 
 }  // namespace
 
+bool is_closed(std::u16string_view formula) {
+    std::u16string open;
+    for (std::size_t i = 0; i < formula.size(); ++i) {
+        const char16_t c = formula[i];
+        if (c == u'"' || c == u'\'') {
+            // A doubled quote closes one part and opens the next.
+            i = formula.find(c, i + 1);
+            if (i == std::u16string_view::npos) return false;
+        } else if (c == u'(' || c == u'{') {
+            open += c == u'(' ? u')' : u'}';
+        } else if (c == u')' || c == u'}') {
+            if (open.empty() || open.back() != c) return false;
+            open.pop_back();
+        }
+    }
+    return open.empty();
+}
+
 std::u16string FormulaTranslator::to_calc(std::u16string_view formula, const BookAddress& address_of_book) const {
     return ToCalc(names_, formula, address_of_book).run();
 }

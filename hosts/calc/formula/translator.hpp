@@ -32,4 +32,7 @@ class FormulaTranslator {
     FunctionNames names_;
 };
 
+// Whether every bracket and quote of a formula in Excel's notation is closed. Calc would close them by itself.
+bool is_closed(std::u16string_view formula);
+
 }  // namespace qor::calc

@@ -1,0 +1,129 @@
+#include "hosts/calc/adapter/number_formats.hpp"
+
+#include <algorithm>
+#include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+
+#include "hosts/calc/formula/notation.hpp"
+#include "hosts/calc/uno/property.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+constexpr sal_Int32 general = 0;
+
+const css::lang::Locale& english() {
+    static const css::lang::Locale locale{"en", "US", {}};
+    return locale;
+}
+
+Ref<css::util::XNumberFormats> formats_of(const Book& book) {
+    return Ref<css::util::XNumberFormatsSupplier>(book.document)->getNumberFormats();
+}
+
+std::u16string_view code_of(NumberKind kind) {
+    switch (kind) {
+        case NumberKind::date:
+            return u"m/d/yyyy";
+        case NumberKind::currency:
+            return u"$#,##0.00";
+        case NumberKind::boolean:
+            return u"BOOLEAN";
+        case NumberKind::plain:
+            break;
+    }
+    return u"General";
+}
+
+// Sets the format in a run of cells. A date and money leave alone what has a format already.
+void apply(const Sheet& sheet, const Rectangle& run, NumberKind kind) {
+    const Cells cells = cells_at(sheet, run);
+    const bool keeps_formats = kind == NumberKind::date || kind == NumberKind::currency;
+    if (keeps_formats) {
+        const auto state = Ref<css::beans::XPropertyState>(cells)->getPropertyState("NumberFormat");
+        if (state == css::beans::PropertyState_AMBIGUOUS_VALUE) {
+            for (std::int32_t row = run.top; row <= run.bottom; ++row)
+                apply(sheet, {run.left, row, run.left, row}, kind);
+            return;
+        }
+        if (get_property<sal_Int32>(cells, "NumberFormat") != general) return;
+    }
+    set_property(cells, "NumberFormat", number_format_key(sheet.book, code_of(kind)));
+}
+
+// Date letters come in capitals, colours too, and Booleans have a format of their own.
+std::u16string in_notation_of_excel(std::u16string_view code) {
+    if (code == u"BOOLEAN") return u"General";
+    std::u16string result;
+    for (std::size_t i = 0; i < code.size();) {
+        const char16_t c = code[i];
+        if (c == u'"') {
+            const std::size_t start = i;
+            take_quoted(code, i);
+            result += code.substr(start, i - start);
+        } else if (c == u'[') {
+            const std::size_t end = std::min(code.find(u']', i), code.size() - 1) + 1;
+            std::u16string part(code.substr(i, end - i));
+            const bool word = part.size() > 4 && std::ranges::all_of(part.substr(1, part.size() - 2), is_letter);
+            result += word ? part.substr(0, 2) + to_lower(part.substr(2)) : part;
+            i = end;
+        } else if (code.substr(i).starts_with(u"AM/PM") || code.substr(i).starts_with(u"General")) {
+            const std::size_t length = c == u'A' ? 5 : 7;
+            result += code.substr(i, length);
+            i += length;
+        } else if (c == u'\\' && i + 1 < code.size()) {
+            result += code.substr(i, 2);
+            i += 2;
+        } else {
+            const bool date_letter = c != u'E' && is_letter(c);
+            result += date_letter ? static_cast<char16_t>(c | 0x20) : c;
+            ++i;
+        }
+    }
+    return result;
+}
+
+}  // namespace
+
+std::int32_t number_format_key(const Book& book, std::u16string_view code) {
+    if (code == u"General") return general;
+    const auto formats = formats_of(book);
+    const sal_Int32 known = formats->queryKey(to_uno(code), english(), false);
+    return known >= 0 ? known : formats->addNew(to_uno(code), english());
+}
+
+std::u16string number_format_code(const Book& book, std::int32_t key) {
+    if (key == general) return u"General";
+    const Ref format{formats_of(book)->getByKey(key)};
+    const auto code = get_property<rtl::OUString>(format, "FormatString");
+    return in_notation_of_excel(view_of(code));
+}
+
+void apply_number_kinds(const Sheet& sheet, const Rectangle& area, const std::vector<NumberKind>& kinds) {
+    const auto width = static_cast<std::size_t>(area.width());
+    for (const KindOfCells& before : number_kinds(sheet, cells_at(sheet, area))) {
+        if (before.kind != NumberKind::boolean) continue;
+        for (const css::table::CellRangeAddress& at : before.places) {
+            const Rectangle run{at.StartColumn, at.StartRow, at.EndColumn, at.EndRow};
+            set_property(cells_at(sheet, run), "NumberFormat", general);
+        }
+    }
+    for (std::size_t column = 0; column < width; ++column) {
+        for (std::size_t row = 0, count = kinds.size() / width; row < count;) {
+            const NumberKind kind = kinds[row * width + column];
+            std::size_t end = row + 1;
+            while (end < count && kinds[end * width + column] == kind) ++end;
+            const auto left = area.left + static_cast<std::int32_t>(column);
+            if (kind != NumberKind::plain) {
+                apply(sheet,
+                      {left, area.top + static_cast<std::int32_t>(row), left,
+                       area.top + static_cast<std::int32_t>(end) - 1},
+                      kind);
+            }
+            row = end;
+        }
+    }
+}
+
+}  // namespace qor::calc

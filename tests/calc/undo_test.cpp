@@ -1,0 +1,67 @@
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
+#include <com/sun/star/frame/Desktop.hpp>
+
+#include "hosts/calc/adapter/undo_step.hpp"
+#include "hosts/calc/uno/text.hpp"
+#include "tests/calc/fixture.hpp"
+
+namespace qor::calc::tests {
+namespace {
+
+// The undo lists of the open workbooks in the order of their opening.
+std::vector<Ref<css::document::XUndoManager>> undo_lists() {
+    std::vector<Ref<css::document::XUndoManager>> result;
+    for (const Document& document : Host(office_context()).documents()) {
+        result.emplace_back(Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager());
+    }
+    return result;
+}
+
+}  // namespace
+
+TEST_CASE("a command is one step of undo in each workbook that it changes") {
+    const Calc calc;
+    const Object changed = calc.add_sheet();
+    const Object untouched = calc.add_sheet();
+    const auto lists = undo_lists();
+    for (const auto& list : lists) list->clear();
+    {
+        const UndoStep step(u"Worksheet Summary");
+        changed.get(names::Range, u"A1").put(names::Value, 1.0);
+        changed.get(names::Range, u"A2:B3").put(names::Value, u"x");
+        changed.get(names::Range, u"A1").get(names::Font).put(names::Bold, true);
+        untouched.get(names::Range, u"A1").get(names::Value);
+    }
+    REQUIRE(lists.size() == 2);
+    CHECK(lists[0]->getAllUndoActionTitles().getLength() == 1);
+    CHECK(view_of(lists[0]->getCurrentUndoActionTitle()) == u"Worksheet Summary");
+    CHECK(lists[1]->getAllUndoActionTitles().getLength() == 0);
+    lists[0]->undo();
+    CHECK(changed.get(names::Range, u"A1").get(names::Value) == Variant(Empty{}));
+    CHECK(changed.get(names::Range, u"B3").get(names::Value) == Variant(Empty{}));
+    CHECK(changed.get(names::Range, u"A1").get(names::Font).get(names::Bold) == false);
+    lists[0]->redo();
+    CHECK(changed.get(names::Range, u"B3").get(names::Value) == u"x");
+}
+
+TEST_CASE("a step ends when its command fails, and when a workbook is closed in it") {
+    const Calc calc;
+    const Object sheet = calc.add_sheet();
+    const Object closing = calc.add_book();
+    const std::int32_t error = error_of([&] {
+        const UndoStep step(u"Failing");
+        sheet.get(names::Range, u"A1").put(names::Value, 1.0);
+        closing.get(names::Worksheets, 1).get(names::Range, u"A1").put(names::Value, 1.0);
+        closing.call(names::Close, false);
+        sheet.get(names::Range, u"no such range");
+    });
+    CHECK(error == 1004);
+    const auto lists = undo_lists();
+    CHECK_FALSE(lists[0]->isUndoPossible() == false);
+    sheet.get(names::Range, u"A2").put(names::Value, 2.0);
+    lists[0]->undo();
+    CHECK(sheet.get(names::Range, u"A1").get(names::Value) == 1.0);
+    CHECK(sheet.get(names::Range, u"A2").get(names::Value) == Variant(Empty{}));
+}
+
+}  // namespace qor::calc::tests
