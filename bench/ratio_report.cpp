@@ -1,27 +1,29 @@
 #include "bench/ratio_report.hpp"
 
 #include <benchmark/benchmark.h>
+#include <fmt/ostream.h>
 
-#include <cstdio>
 #include <string>
+#include <vector>
 
 namespace qor::bench {
 namespace {
 
-// A name "group/case" is compared with the first case of its group.
 class RatioReporter final : public benchmark::BenchmarkReporter {
   public:
+    explicit RatioReporter(std::ostream& report) : report_(report) {}
+
     bool ReportContext(const Context&) override {
-        std::printf("%-44s %14s %9s  %s\n", "", "median", "ratio", "counters");
+        fmt::print(report_, "{:<50}{:>14}{:>10}\n", "", "median", "ratio");
         return true;
     }
 
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
             if (run.error_occurred) {
-                std::printf("%-44s failed: %s\n", run.run_name.function_name.c_str(), run.error_message.c_str());
+                fmt::print(report_, "{:<50} failed: {}\n", run.run_name.function_name, run.error_message);
                 failed_ = true;
-            } else if (run.aggregate_name == "median" || run.repetitions <= 1) {
+            } else if (run.aggregate_name == "median") {
                 print(run);
             }
         }
@@ -34,16 +36,18 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
         const std::string& name = run.run_name.function_name;
         const std::string group = name.substr(0, name.find('/'));
         const double time = run.GetAdjustedRealTime();
+        const double seconds = time / benchmark::GetTimeUnitMultiplier(run.time_unit);
         if (group != group_) {
             group_ = group;
-            baseline_ = time;
+            baseline_ = seconds;
         }
-        std::printf("%-44s %11.3f %-2s %9.3f ", name.c_str(), time, benchmark::GetTimeUnitString(run.time_unit),
-                    time / baseline_);
-        for (const auto& [counter, value] : run.counters) std::printf(" %s=%.0f", counter.c_str(), value.value);
-        std::printf("\n");
+        fmt::print(report_, "{:<50}{:>11.2f} {:<2}{:>10.4f}", name, time, benchmark::GetTimeUnitString(run.time_unit),
+                   seconds / baseline_);
+        for (const auto& [counter, value] : run.counters) fmt::print(report_, "  {} {:.0f}", counter, value.value);
+        report_ << std::endl;
     }
 
+    std::ostream& report_;
     std::string group_;
     double baseline_ = 1;
     bool failed_ = false;
@@ -51,10 +55,14 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
 
 }  // namespace
 
-bool run_with_ratios(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return false;
-    RatioReporter reporter;
+bool run_with_ratios(std::span<const char* const> arguments, std::ostream& report) {
+    std::vector<std::string> copies(arguments.begin(), arguments.end());
+    std::vector<char*> pointers;
+    for (std::string& copy : copies) pointers.push_back(copy.data());
+    int count = static_cast<int>(pointers.size());
+    benchmark::Initialize(&count, pointers.data());
+    if (benchmark::ReportUnrecognizedArguments(count, pointers.data())) return false;
+    RatioReporter reporter(report);
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return !reporter.failed();
 }

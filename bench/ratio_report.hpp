@@ -1,9 +1,13 @@
 #pragma once
 
+#include <ostream>
+#include <span>
+
 namespace qor::bench {
 
-// Runs the registered benchmarks, several times each, and prints the median of each with its ratio to the first one
-// and with its counters. Returns false when the arguments could not be read or a benchmark failed.
-bool run_with_ratios(int argc, char** argv);
+// Runs the registered benchmarks and prints the median of each with its ratio to the first one of its group, and with
+// its counters. A benchmark named "group/case" belongs to that group. The first argument is the program's name, the
+// others are the library's. Returns false when an argument could not be read or a benchmark failed.
+bool run_with_ratios(std::span<const char* const> arguments, std::ostream& report);
 
 }  // namespace qor::bench

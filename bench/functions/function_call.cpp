@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <iostream>
 
 #include "bench/ratio_report.hpp"
 #include "core/CCom.hpp"
@@ -68,5 +69,5 @@ int main(int argc, char** argv) {
     enter("call/declared formula", declared_formula);
     enter("call/late bound", late_bound_call);
     enter("call/late bound, name looked up each time", late_bound_call_by_text);
-    return bench::run_with_ratios(argc, argv) ? 0 : 1;
+    return bench::run_with_ratios({argv, static_cast<std::size_t>(argc)}, std::cout) ? 0 : 1;
 }

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "core/CCom.hpp"
+#include "core/MMain.hpp"
+#include "platform/ini_settings_store.hpp"
+#include "screens/script/script_screen.hpp"
+#include "tests/calc/fixture.hpp"
+
+namespace qor::calc::tests {
+
+// A Calc in which tools of the add-in are run with a scripted screen, with options of its own.
+class ToolRun : public Calc {
+  public:
+    ToolRun();
+
+    void set_option(std::u16string_view name, std::u16string_view value);
+
+    // Calls the tool as the session does, one undo step around it; answers what was shown.
+    nlohmann::json call(std::u16string_view tool, const nlohmann::json& script);
+
+    Object active_sheet() const { return application.get(names::ActiveSheet); }
+    Variant cell(std::int32_t row, std::int32_t column) const {
+        return active_sheet().get(names::Cells, row, column).get(names::Value);
+    }
+    // The values of a row from column 1.
+    std::vector<Variant> row(std::int32_t row, std::size_t columns) const;
+
+  private:
+    IniSettingsStore settings_;
+    ScriptScreen screen_;
+    Object com_;
+};
+
+}  // namespace qor::calc::tests
