@@ -31,7 +31,9 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
     std::int32_t count() {
         std::int32_t result = 0;
         for (const Cells& cells : areas_.areas) {
-            const Ref texts{Ref<css::sheet::XCellRangesQuery>(cells)->queryContentCells(css::sheet::CellFlags::STRING)};
+            // Only texts of several parts can hold a link, which spares asking all the plain ones.
+            const Ref texts{
+                Ref<css::sheet::XCellRangesQuery>(cells)->queryContentCells(css::sheet::CellFlags::FORMATTED)};
             const Ref elements{Ref{texts->getCells()} -> createEnumeration()};
             while (elements->hasMoreElements()) {
                 const Ref<css::text::XTextFieldsSupplier> cell(elements->nextElement());
