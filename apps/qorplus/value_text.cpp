@@ -10,7 +10,6 @@
 #include "apps/qorplus/usage_error.hpp"
 #include "platform/text.hpp"
 #include "runtime/calendar.hpp"
-#include "runtime/format_date.hpp"
 
 namespace qor::cli {
 namespace {

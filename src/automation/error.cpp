@@ -18,6 +18,7 @@ constexpr std::array descriptions{
     Description{ErrorNumber::division_by_zero, u"Division by zero"},
     Description{ErrorNumber::type_mismatch, u"Type mismatch"},
     Description{ErrorNumber::object_not_set, u"Object variable or With block variable not set"},
+    Description{ErrorNumber::invalid_pattern, u"Invalid pattern string"},
     Description{ErrorNumber::invalid_use_of_null, u"Invalid use of Null"},
     Description{ErrorNumber::object_required, u"Object required"},
     Description{ErrorNumber::no_such_member, u"Object doesn't support this property or method"},

@@ -16,6 +16,7 @@ enum class ErrorNumber : std::int32_t {
     division_by_zero = 11,
     type_mismatch = 13,
     object_not_set = 91,
+    invalid_pattern = 93,
     invalid_use_of_null = 94,
     object_required = 424,
     no_such_member = 438,

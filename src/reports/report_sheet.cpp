@@ -9,7 +9,7 @@
 #include "core/boolean_option.hpp"
 #include "runtime/clock.hpp"
 #include "runtime/conversion.hpp"
-#include "runtime/format_date.hpp"
+#include "runtime/format.hpp"
 
 namespace qor {
 namespace {
@@ -47,7 +47,7 @@ ReportSheet::ReportSheet(std::u16string_view title, std::span<const std::u16stri
     made_ = attempt(make_destination) == 0;
     if (!made_) return;
     write_title_line(1, title, 16, true);
-    write_title_line(2, u"Prepared Date: " + format_date(today(), u"mmmm d, yyyy"), 11, true);
+    write_title_line(2, u"Prepared Date: " + format(today(), u"mmmm d, yyyy"), 11, true);
     std::u16string user_name;
     if (attempt([&] { user_name = to_text(gExcel.get(names::UserName)); }) == 0) user_name.insert(0, u"Prepared By: ");
     write_title_line(3, user_name, 10, false);

@@ -1,6 +1,8 @@
 #include "runtime/calendar.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace qor {
 namespace {
@@ -42,6 +44,24 @@ Date to_date(std::int64_t day, double fraction) {
     const auto serial = static_cast<double>(day);
     if (!(serial >= first_serial && serial <= last_serial)) throw Error(ErrorNumber::invalid_call);
     return {day < 0 ? serial - fraction : serial + fraction};
+}
+
+std::u16string to_iso(Date date) {
+    const CivilTime civil = to_civil(date);
+    std::u16string text;
+    const auto add = [&](std::int64_t number, std::size_t least_count, char16_t separator) {
+        const std::string digits = std::to_string(number);
+        if (separator != 0) text += separator;
+        text.append(least_count - std::min(least_count, digits.size()), u'0').append(digits.begin(), digits.end());
+    };
+    add(static_cast<int>(civil.day.year()), 4, 0);
+    add(static_cast<unsigned>(civil.day.month()), 2, u'-');
+    add(static_cast<unsigned>(civil.day.day()), 2, u'-');
+    if (civil.time.to_duration().count() == 0) return text;
+    add(civil.time.hours().count(), 2, u'T');
+    add(civil.time.minutes().count(), 2, u':');
+    add(civil.time.seconds().count(), 2, u':');
+    return text;
 }
 
 }  // namespace qor

@@ -30,4 +30,7 @@ std::chrono::seconds to_seconds(const CivilTime& civil);
 // calendar.
 Date to_date(std::int64_t day, double fraction);
 
+// "2004-03-15", and "2004-03-15T13:05:00" if the time is not midnight, whatever the country.
+std::u16string to_iso(Date date);
+
 }  // namespace qor

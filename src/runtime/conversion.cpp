@@ -67,17 +67,6 @@ struct ToText : Refusal {
         const std::string text = std::to_string(value);
         return {text.begin(), text.end()};
     }
-
-    static std::u16string general_date(Date date) {
-        const CivilTime civil = to_civil(date);
-        std::u16string day = format_date(date, u"m/d/yyyy");
-        if (civil.time.to_duration().count() == 0) return day;
-        const bool is_afternoon = civil.time.hours().count() >= 12;
-        const auto hour = static_cast<std::int32_t>(std::chrono::make12(civil.time.hours()).count());
-        const std::u16string time =
-            whole_number(hour) + format_date(date, u":nn:ss") + (is_afternoon ? u" PM" : u" AM");
-        return std::trunc(date.serial) == 0 ? time : day + u' ' + time;
-    }
 };
 
 template <class Whole>

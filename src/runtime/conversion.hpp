@@ -19,8 +19,8 @@ double to_double(const Variant& value);
 Currency to_currency(const Variant& value);  // to ten-thousandths, half to even
 Date to_date(const Variant& value);          // 1 January 100 to 31 December 9999; text as parse_date reads it, too
 
-// Numbers in 15 significant digits (singles in 7) with a decimal point, dates as "3/15/2004 1:05:00 PM" without a time
-// that is midnight or a day that is 30 December 1899, booleans as "True" and "False", errors as "Error 2007".
+// Numbers in 15 significant digits (singles in 7), dates as "3/15/2004 1:05:00 PM" without a time that is midnight or a
+// day that is 30 December 1899, both in the country's form; booleans as "True" and "False", errors as "Error 2007".
 std::u16string to_text(const Variant& value);
 
 Object to_object(const Variant& value);  // Nothing is an object; any other value that is none raises 424

@@ -1,17 +1,21 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "automation/variant.hpp"
+#include "runtime/calendar.hpp"
+#include "runtime/format_pattern.hpp"
 
 namespace qor {
 
-// The date by a pattern of d dd ddd dddd, m mm mmm mmmm, yy yyyy, h hh, n nn and s ss in any case, with English names;
-// whatever is none of these stands for itself. Raises 6 for a date outside of the calendar.
-std::u16string format_date(Date date, std::u16string_view pattern);
+// A pattern of dates begins here, so that no number or text is meant.
+bool starts_date_field(Symbols pattern);
 
-// "2004-03-15", and "2004-03-15T13:05:00" if the time is not midnight.
-std::u16string to_iso(Date date);
+// The date by a pattern of dates. Raises 6 outside of the calendar, 5 for a week rule that there is none of.
+std::u16string format_date(Date date, Symbols pattern, std::int32_t first_day_of_week, std::int32_t first_week_of_year);
+
+// In the country's form: the date unless it is 30 December 1899, the time unless it is midnight, one of them at least.
+std::u16string general_date(Date date);
 
 }  // namespace qor

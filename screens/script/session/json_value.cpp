@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "platform/text.hpp"
-#include "runtime/format_date.hpp"
+#include "runtime/calendar.hpp"
 #include "screens/script/script_error.hpp"
 
 namespace qor {
