@@ -3,8 +3,11 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
+#include <limits>
 
 #include "automation/error.hpp"
+#include "runtime/conversion.hpp"
 
 namespace qor {
 namespace {
@@ -49,6 +52,48 @@ double round_half_even(double value, std::int32_t places) {
     // The decimal places are closer together than doubles are; true for infinities and what is no number as well.
     if (!(std::abs(product) < first_without_neighbours)) return value;
     return is_exact_power ? nearest_whole(value, power, product) / power : round_digits(value, places);
+}
+
+Currency round_half_even(Currency value, std::int32_t places) {
+    constexpr std::array<std::int64_t, 4> units{10'000, 1'000, 100, 10};  // in ten-thousandths
+    if (places < 0) throw Error(ErrorNumber::invalid_call);
+    if (places >= static_cast<std::int32_t>(units.size())) return value;
+    const std::int64_t unit = units[static_cast<std::size_t>(places)];
+    const std::int64_t rest = value.ten_thousandths % unit;
+    const std::int64_t twice = 2 * std::abs(rest);
+    const bool is_odd = value.ten_thousandths / unit % 2 != 0;
+    std::int64_t rounded = value.ten_thousandths - rest;
+    if (twice > unit || (twice == unit && is_odd)) {
+        const std::int64_t step = rest < 0 ? -unit : unit;
+        constexpr std::numeric_limits<std::int64_t> limits;
+        if (step > 0 ? rounded > limits.max() - step : rounded < limits.min() - step) {
+            throw Error(ErrorNumber::overflow);
+        }
+        rounded += step;
+    }
+    return {rounded};
+}
+
+Variant round_half_even(const Variant& value, std::int32_t places) {
+    using Kind = Variant::Kind;
+    if (places < 0) throw Error(ErrorNumber::invalid_call);
+    switch (value.kind()) {
+        case Kind::null:
+        case Kind::integer:
+        case Kind::long_integer:
+            return value;
+        case Kind::empty:
+        case Kind::boolean:
+            return to_integer(value);
+        case Kind::currency:
+            return round_half_even(to_currency(value), places);
+        case Kind::single:
+            return static_cast<float>(round_half_even(to_double(value), places));
+        case Kind::date:
+            return Date{round_half_even(to_double(value), places)};
+        default:
+            return round_half_even(to_double(value), places);
+    }
 }
 
 }  // namespace qor

@@ -137,3 +137,44 @@ TEST_CASE("rounding agrees with exact decimal arithmetic") {
         agrees(near * (1 + *rc::gen::inRange(-1000, 1000) * 0x1p-52), places);
     }));
 }
+
+TEST_CASE("money rounds exactly, half to even") {
+    const auto rounded = [](std::int64_t ten_thousandths, std::int32_t places) {
+        return round_half_even(Currency{ten_thousandths}, places).ten_thousandths;
+    };
+    CHECK(rounded(12345, 2) == 12300);
+    CHECK(rounded(12350, 2) == 12400);
+    CHECK(rounded(12450, 2) == 12400);
+    CHECK(rounded(12451, 2) == 12500);
+    CHECK(rounded(-12350, 2) == -12400);
+    CHECK(rounded(-12450, 2) == -12400);
+    CHECK(rounded(5000, 0) == 0);
+    CHECK(rounded(15000, 0) == 20000);
+    CHECK(rounded(-25000, 0) == -20000);
+    CHECK(rounded(12345, 3) == 12340);
+    CHECK(rounded(12345, 4) == 12345);
+    CHECK(rounded(12345, 30) == 12345);
+    CHECK(rounded(9223372036854775807, 2) == 9223372036854775800);
+    CHECK(raised([&] { return rounded(9223372036854775807, 1); }) == 6);
+    CHECK(raised([&] { return rounded(std::numeric_limits<std::int64_t>::min(), 1); }) == 6);
+    CHECK(raised([&] { return rounded(1, -1); }) == 5);
+}
+
+TEST_CASE("a value is rounded in its own kind") {
+    const auto same = [](const Variant& rounded, const auto& expected) {
+        const auto* held = rounded.get_if<std::remove_cvref_t<decltype(expected)>>();
+        return held && *held == expected;
+    };
+    CHECK(same(round_half_even(Variant(std::int16_t{7}), 2), std::int16_t{7}));
+    CHECK(same(round_half_even(Variant(70000), 0), std::int32_t{70000}));
+    CHECK(same(round_half_even(Variant(true), 0), std::int16_t{-1}));
+    CHECK(same(round_half_even(Variant(Empty{}), 0), std::int16_t{0}));
+    CHECK(same(round_half_even(Variant(2.5F), 0), 2.0F));
+    CHECK(same(round_half_even(Variant(2.665), 2), 2.67));
+    CHECK(same(round_half_even(Variant(Currency{12350}), 2), Currency{12400}));
+    CHECK(same(round_half_even(Variant(Date{38061.75}), 1), Date{38061.8}));
+    CHECK(same(round_half_even(Variant(u"3.5"), 0), 4.0));
+    CHECK(round_half_even(Variant(Null{}), 0).is(Variant::Kind::null));
+    CHECK(raised([] { return round_half_even(Variant(u"x"), 0); }) == 13);
+    CHECK(raised([] { return round_half_even(Variant(std::int16_t{1}), -1); }) == 5);
+}
