@@ -150,7 +150,7 @@ TEST_CASE("every example of every function computes in a cell") {
 TEST_CASE("the function wizard knows every function and all its arguments") {
     const auto entries = wizard_entries();
     for (const Function& function : worksheet_functions()) {
-        const std::string name = to_utf8(function.name);
+        const std::string name = to_utf8(to_upper(function.name));  // so Calc shows all names
         CAPTURE(name);
         const auto found = entries.find(name);
         REQUIRE(found != entries.end());

@@ -4,6 +4,7 @@
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/task/XJob.hpp>
 
+#include <array>
 #include <nlohmann/json.hpp>
 
 #include "apps/qorplus/office/extension_installer.hpp"
@@ -20,6 +21,7 @@ namespace beans = com::sun::star::beans;
 namespace task = com::sun::star::task;
 namespace uno = com::sun::star::uno;
 using calc::OfficeError;
+using calc::OfficeFiles;
 using calc::PrivateOffice;
 using calc::Profile;
 using nlohmann::json;
@@ -36,12 +38,28 @@ json answer_of_session(PrivateOffice& office, const std::string& script, const s
                                                      "com.ombrel.qorplus.Session", office.context()),
                                                  uno::UNO_QUERY);
         if (!session.is()) throw OfficeError("LibreOffice cannot load the add-in; this program is not whole");
-        const beans::NamedValue arguments[] = {named_text("Script", script), named_text("Folder", folder.native())};
+        const std::array arguments{named_text("Script", script), named_text("Folder", folder.native()),
+                                   named_text("TemporaryFolder", office.temporary_folder().native()),
+                                   named_text("HiddenName", office.hidden_folder_name())};
         rtl::OUString text;
-        session->execute({arguments, 2}) >>= text;
+        session->execute({arguments.data(), static_cast<sal_Int32>(arguments.size())}) >>= text;
         answer = json::parse(to_utf8(calc::view_of(text)));
     });
     return answer;
+}
+
+// The session finds out whether the script has the right shape; here only what has it counts.
+OfficeFiles files_of(const json& script, const std::filesystem::path& folder) {
+    OfficeFiles files;
+    const auto list = [&](const char* key) { return script.contains(key) ? script[key] : json::array(); };
+    for (const json& file : list("open")) {
+        if (file.is_string()) files.opened.push_back(folder / file.get<std::string>());
+    }
+    for (const json& step : list("steps")) {
+        if (step.is_object() && step.contains("as") && step["as"].is_string())
+            files.written.push_back(folder / step["as"].get<std::string>());
+    }
+    return files;
 }
 
 class OfficeCommandsHere final : public OfficeCommands {
@@ -49,7 +67,8 @@ class OfficeCommandsHere final : public OfficeCommands {
     explicit OfficeCommandsHere(const OfficePlaces& places) : places_(places) {}
 
     std::string run(const std::string& script, const std::filesystem::path& current_folder) override {
-        PrivateOffice office(places_.program, {&places_.component_list, 1});
+        PrivateOffice office(places_.program, {&places_.component_list, 1}, Profile::fresh,
+                             files_of(json::parse(script), current_folder));
         const json answer = answer_of_session(office, script, current_folder);
         if (!answer.contains("error")) return answer.at("transcript").dump(2);
         const std::string message = answer["error"]["message"];

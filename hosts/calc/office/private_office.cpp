@@ -53,17 +53,22 @@ uno::Reference<uno::XComponentContext> client_context(const std::filesystem::pat
 }
 
 OfficeStart start_options(const std::filesystem::path& program, const std::filesystem::path& folder,
-                          std::span<const std::filesystem::path> component_lists, Profile profile) {
+                          std::span<const std::filesystem::path> component_lists, Profile profile,
+                          const OfficeFiles& files) {
     const std::string pipe_name = folder.filename();
     OfficeStart start;
     start.program = program;
     start.leftovers = {folder, office_socket(pipe_name)};
     start.arguments = {"--headless",  "--norestore",          "--nologo",
                        "--nodefault", "--nofirststartwizard", "--accept=pipe,name=" + pipe_name + ";urp;"};
+    for (const auto& file : files.opened)
+        start.locks.push_back(file.parent_path() / (".~lock." + file.filename().string() + "#"));
+    for (const auto& file : files.written) start.leftovers.push_back(file.parent_path() / ("." + pipe_name));
     // Temporary files of a LibreOffice that is killed go with the rest.
     start.environment = {"SAL_USE_VCLPLUGIN=svp", "TMPDIR=" + folder.string()};
     if (profile == Profile::fresh) {
         const rtl::OUString profile_url = file_url(folder / "profile");
+        start.lock_owner = utf8(profile_url);
         start.leftovers.push_back(profile_socket(profile_url));
         start.arguments.push_back("-env:UserInstallation=" + utf8(profile_url));
         // The outcome of a run must not depend on the user's language; file names are UTF-8 whatever it is.
@@ -87,14 +92,15 @@ rtl::OUString user_profile_url(const std::filesystem::path& program) {
 }
 
 PrivateOffice::PrivateOffice(const std::filesystem::path& program,
-                             std::span<const std::filesystem::path> component_lists, Profile profile) {
+                             std::span<const std::filesystem::path> component_lists, Profile profile,
+                             const OfficeFiles& files) {
     if (profile == Profile::of_user && is_listening(profile_socket(user_profile_url(program)))) {
         throw OfficeError("LibreOffice is running; close LibreOffice first");
     }
-    const std::filesystem::path folder = make_private_folder();
-    process_.emplace(start_options(program, folder, component_lists, profile));
+    folder_ = make_private_folder();
+    process_.emplace(start_options(program, folder_, component_lists, profile, files));
     client_context(program);
-    connect(folder.filename());
+    connect(folder_.filename());
 }
 
 PrivateOffice::~PrivateOffice() {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "hosts/calc/office/process/office_process.hpp"
 
@@ -16,13 +17,19 @@ enum class Profile {
     of_user,  // the user's own, which only one LibreOffice at a time can hold
 };
 
+// The files that LibreOffice is to work on. It may be killed at any moment; nothing of its own stays beside them.
+struct OfficeFiles {
+    std::vector<std::filesystem::path> opened;
+    std::vector<std::filesystem::path> written;  // through a folder of the name hidden_folder_name(), beside the file
+};
+
 // A LibreOffice without a window, started for this object and ended with it. Only one thread may use it.
 class PrivateOffice {
   public:
     // `component_lists` are .components files whose services LibreOffice offers beside its own.
     // Raises OfficeError when LibreOffice does not start and answer, or when the user's profile is in use.
     PrivateOffice(const std::filesystem::path& program, std::span<const std::filesystem::path> component_lists,
-                  Profile profile = Profile::fresh);
+                  Profile profile = Profile::fresh, const OfficeFiles& files = {});
     PrivateOffice(const PrivateOffice&) = delete;
     PrivateOffice& operator=(const PrivateOffice&) = delete;
     ~PrivateOffice();
@@ -30,6 +37,10 @@ class PrivateOffice {
     const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context() const noexcept {
         return context_;
     }
+
+    // Removed when LibreOffice ends.
+    const std::filesystem::path& temporary_folder() const noexcept { return folder_; }
+    std::string hidden_folder_name() const { return "." + folder_.filename().string(); }
 
     // Does work that calls into LibreOffice. Raises OfficeError for a refusal, and for a LibreOffice that is gone.
     void work(const std::function<void()>& task);
@@ -40,6 +51,7 @@ class PrivateOffice {
   private:
     void connect(const std::string& pipe_name);
 
+    std::filesystem::path folder_;
     std::optional<OfficeProcess> process_;
     com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
 };

@@ -26,9 +26,16 @@ namespace task = com::sun::star::task;
 namespace uno = com::sun::star::uno;
 using nlohmann::json;
 using rtl::OUString;
+using Arguments = uno::Sequence<beans::NamedValue>;
 
 json problem(const char* kind, const std::string& message) {
     return {{"error", {{"kind", kind}, {"message", message}}}};
+}
+
+std::string told(const Error& error) {
+    std::string text = to_utf8(error.description()) + " (error " + std::to_string(error.number());
+    if (!error.source().empty()) text += ", " + to_utf8(error.source());
+    return text + ")";
 }
 
 SessionHost session_host(const uno::Reference<uno::XComponentContext>& context) {
@@ -49,8 +56,8 @@ class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XSer
   public:
     explicit SessionService(uno::Reference<uno::XComponentContext> context) : context_(std::move(context)) {}
 
-    uno::Any SAL_CALL execute(const uno::Sequence<beans::NamedValue>& arguments) override {
-        const json answer = play(text_in(arguments, "Script"), text_in(arguments, "Folder"));
+    uno::Any SAL_CALL execute(const Arguments& arguments) override {
+        const json answer = play(arguments);
         // A transcript may hold text that is no valid Unicode: the cells of a workbook can.
         return uno::Any(to_uno(from_utf8(answer.dump(-1, ' ', false, json::error_handler_t::replace))));
     }
@@ -63,7 +70,7 @@ class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XSer
     }
 
   private:
-    static std::string text_in(const uno::Sequence<beans::NamedValue>& arguments, const char* name) {
+    static std::string text_in(const Arguments& arguments, const char* name) {
         OUString text;
         for (const beans::NamedValue& argument : arguments) {
             if (argument.Name.equalsAscii(name)) argument.Value >>= text;
@@ -72,33 +79,29 @@ class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XSer
     }
 
     // Whatever is thrown becomes an answer: nothing but that crosses into the other process.
-    json play(const std::string& script, const std::string& folder) const {
+    json play(const Arguments& arguments) const {
         json answer;
         try {
-            run_on_main_thread(context_, [&] { answer = {{"transcript", play_on_main_thread(script, folder)}}; });
+            run_on_main_thread(context_, [&] { answer = {{"transcript", play_on_main_thread(arguments)}}; });
         } catch (const ScriptError& error) {
             answer = problem("script", error.what());
         } catch (const json::exception& error) {
             answer = problem("script", error.what());
         } catch (const uno::Exception& error) {
             answer = problem("host", to_utf8(view_of(error.Message)));
+        } catch (const Error& error) {
+            answer = problem("host", told(error));
         } catch (const std::exception& error) {
             answer = problem("host", error.what());
         }
         return answer;
     }
 
-    json play_on_main_thread(const std::string& script, const std::string& folder) const {
-        std::string temporary = std::filesystem::temp_directory_path() / "qorplus-run-XXXXXX";
-        if (!::mkdtemp(temporary.data())) throw std::runtime_error("no temporary folder can be made as " + temporary);
-        const struct Folder {
-            std::filesystem::path path;
-            ~Folder() {
-                std::error_code ignored;
-                std::filesystem::remove_all(path, ignored);
-            }
-        } run_folder{temporary};
-        return qor::play(json::parse(script), session_host(context_), {folder, run_folder.path});
+    json play_on_main_thread(const Arguments& arguments) const {
+        const SessionFolders folders{.current = text_in(arguments, "Folder"),
+                                     .temporary = text_in(arguments, "TemporaryFolder"),
+                                     .hidden_name = text_in(arguments, "HiddenName")};
+        return qor::play(json::parse(text_in(arguments, "Script")), session_host(context_), folders);
     }
 
     uno::Reference<uno::XComponentContext> context_;

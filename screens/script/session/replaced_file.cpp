@@ -2,20 +2,19 @@
 
 #include <fmt/format.h>
 
-#include <cstdlib>
 #include <system_error>
 
 #include "screens/script/script_error.hpp"
 
 namespace qor {
 
-ReplacedFile::ReplacedFile(std::filesystem::path target) : target_(std::move(target)) {
-    std::string folder = target_.parent_path() / ".qorplus-XXXXXX";
-    if (!::mkdtemp(folder.data())) {
-        throw ScriptError(fmt::format("nothing can be written in {}: {}", target_.parent_path().string(),
-                                      std::generic_category().message(errno)));
+ReplacedFile::ReplacedFile(std::filesystem::path target, const std::string& hidden_name)
+    : target_(std::move(target)), folder_(target_.parent_path() / hidden_name) {
+    std::error_code refused;
+    if (!std::filesystem::create_directory(folder_, refused)) {
+        throw ScriptError(
+            fmt::format("nothing can be written in {}: {}", target_.parent_path().string(), refused.message()));
     }
-    folder_ = folder;
 }
 
 ReplacedFile::~ReplacedFile() {

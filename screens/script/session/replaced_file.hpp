@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace qor {
 
@@ -9,7 +10,7 @@ namespace qor {
 class ReplacedFile {
   public:
     // Raises ScriptError when nothing can be written in the target's folder.
-    explicit ReplacedFile(std::filesystem::path target);
+    ReplacedFile(std::filesystem::path target, const std::string& hidden_name);
     ReplacedFile(const ReplacedFile&) = delete;
     ReplacedFile& operator=(const ReplacedFile&) = delete;
     ~ReplacedFile();

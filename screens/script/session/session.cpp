@@ -216,7 +216,7 @@ class Session {
             return {{"save", to_utf8(to_text(workbook.get(names::FullName)))}};
         }
         const auto target = path_of(required_text(step, "as", where), folders_.current);
-        const ReplacedFile file(target);
+        const ReplacedFile file(target, folders_.hidden_name);
         try {
             workbook.call(names::SaveAs, from_utf8(file.path().native()));
         } catch (const Error& error) {

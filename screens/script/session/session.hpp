@@ -23,6 +23,7 @@ struct SessionHost {
 struct SessionFolders {
     std::filesystem::path current;    // what relative paths of the script start from
     std::filesystem::path temporary;  // for the settings and data of the run
+    std::string hidden_name;          // of the folder beside a file in which it is written
 };
 
 // Plays a script: opens its workbooks, does its steps, closes what has been opened since, unsaved, and gives the

@@ -14,6 +14,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
+#include <iterator>
 #include <string_view>
 
 #include "hosts/calc/office/process/office_error.hpp"
@@ -49,7 +51,7 @@ std::vector<std::string> environment_with(const std::vector<std::string>& additi
 class Keeper {
   public:
     Keeper(const OfficeStart& start, std::vector<std::string>& arguments, std::vector<std::string>& environment)
-        : leftovers_(start.leftovers), arguments_(pointers(arguments)), environment_(pointers(environment)) {}
+        : start_(start), arguments_(pointers(arguments)), environment_(pointers(environment)) {}
 
     [[noreturn]] void run(int channel) {
         detach(channel);
@@ -57,12 +59,21 @@ class Keeper {
             const pid_t office = start_office();
             if (office < 0 || !wants_restart(office)) break;
         }
-        std::error_code ignored;
-        for (const auto& leftover : leftovers_) std::filesystem::remove_all(leftover, ignored);
+        remove_leftovers();
         ::_exit(EXIT_SUCCESS);
     }
 
   private:
+    void remove_leftovers() const {
+        std::error_code ignored;
+        for (const auto& leftover : start_.leftovers) std::filesystem::remove_all(leftover, ignored);
+        for (const auto& lock : start_.locks) {
+            std::ifstream file(lock);
+            const std::string content{std::istreambuf_iterator<char>(file), {}};
+            if (content.find(start_.lock_owner) != content.npos) std::filesystem::remove(lock, ignored);
+        }
+    }
+
     // Nothing of the terminal, the signals and the open files of the process that it came from stays with it:
     // who reads that process's output must not wait for the keeper.
     void detach(int channel) {
@@ -116,7 +127,7 @@ class Keeper {
         }
     }
 
-    std::vector<std::filesystem::path> leftovers_;
+    const OfficeStart& start_;
     std::vector<char*> arguments_;
     std::vector<char*> environment_;
     int child_events_ = -1;

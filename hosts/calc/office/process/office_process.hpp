@@ -12,10 +12,14 @@
 namespace qor::calc {
 
 struct OfficeStart {
-    std::filesystem::path program;                 // the folder of soffice.bin
-    std::vector<std::string> arguments;            // those of soffice.bin
-    std::vector<std::string> environment;          // NAME=value, set over what this process has
-    std::vector<std::filesystem::path> leftovers;  // files and folders that are removed when LibreOffice has ended
+    std::filesystem::path program;         // the folder of soffice.bin
+    std::vector<std::string> arguments;    // those of soffice.bin
+    std::vector<std::string> environment;  // NAME=value, set over what this process has
+    // Files and folders that are removed when LibreOffice has ended.
+    std::vector<std::filesystem::path> leftovers;
+    // Of these, lock files of documents, only those that hold the text: another LibreOffice may have locked the same.
+    std::vector<std::filesystem::path> locks;
+    std::string lock_owner;
 };
 
 // A LibreOffice that ends with this object. A keeper process stands between: it starts LibreOffice, starts it again
