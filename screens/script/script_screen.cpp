@@ -79,15 +79,22 @@ void cancel_form(Form& form) {
 void ScriptScreen::begin_call(const json& call) {
     forms_ = list_of(call, "forms", &json::is_array, "a list of lists of actions");
     answers_ = list_of(call, "answers", &json::is_string, "a list of texts");
+    for (const char* key : {"ranges", "files"}) {
+        unasked_[key] = list_of(call, key, &json::is_string, "a list of texts").size();
+    }
     shown_forms_ = json::array();
     messages_ = json::array();
-    progress_ = json::array();
+    progress_ = nullptr;
 }
 
 json ScriptScreen::end_call(bool command_failed) {
     if (!command_failed) {
         require_used("form", shown_forms_.size(), "actions", forms_.size());
         require_used("message", messages_.size(), "answers", answers_.size());
+        for (const auto& [key, count] : unasked_.items()) {
+            if (count > 0)
+                throw ScriptError(fmt::format("the call asked for no {}, the script has {}", key, count.dump()));
+        }
     }
     return {{"forms", std::move(shown_forms_)}, {"messages", std::move(messages_)}, {"progress", std::move(progress_)}};
 }
@@ -107,7 +114,7 @@ void ScriptScreen::show_modal(Form& form) {
 }
 
 void ScriptScreen::progress(Form&, std::int32_t done, std::int32_t total) {
-    progress_.push_back({done, total});
+    progress_ = {done, total};
 }
 
 MessageAnswer ScriptScreen::message_box(const MessageBox& message) {

@@ -105,7 +105,7 @@ TEST_CASE("the Worksheet Summary goes into a new workbook with title block, head
     CHECK(shown["forms"][0]["name"] == "frmWKSum");
     CHECK(shown["forms"][0]["caption"] == "QOR Plus: Worksheet Summary");
     CHECK(shown["forms"][0]["controls"]["cmdButton(0)"]["enabled"] == false);
-    CHECK(shown["progress"] == json::parse("[[1, 1]]"));
+    CHECK(shown["progress"] == json::parse("[1, 1]"));
     CHECK(shown["messages"].empty());
 }
 

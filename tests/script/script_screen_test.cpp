@@ -311,13 +311,23 @@ TEST_CASE_FIXTURE(Script, "an answer that the message does not offer ends the ru
                          R"(the message "Done." offers ["OK","Cancel"], but the script answers "Yes")", ScriptError);
 }
 
-TEST_CASE_FIXTURE(Script, "progress is kept pair by pair, and each call starts anew") {
+TEST_CASE_FIXTURE(Script, "ranges and files that nobody asked for end the run") {
+    screen.begin_call(R"({"ranges": ["B2:B9"]})"_json);
+    CHECK_THROWS_WITH_AS(screen.end_call(), "the call asked for no ranges, the script has 1", ScriptError);
+    screen.begin_call(R"({"files": ["out.xls", "in.xls"]})"_json);
+    CHECK_THROWS_WITH_AS(screen.end_call(), "the call asked for no files, the script has 2", ScriptError);
+    screen.begin_call(R"({"files": ["out.xls"]})"_json);
+    CHECK_NOTHROW(screen.end_call(true));
+    CHECK_THROWS_AS(screen.begin_call(R"({"ranges": "B2"})"_json), ScriptError);
+}
+
+TEST_CASE_FIXTURE(Script, "progress is told as it stood last, and each call starts anew") {
     frmSample form(screen);
     screen.begin_call(json::object());
     form.show(nullptr);
     screen.progress(form, 1, 8);
     screen.progress(form, 1, 1);
-    CHECK(screen.end_call() == R"({"forms": [], "messages": [], "progress": [[1, 8], [1, 1]]})"_json);
+    CHECK(screen.end_call() == R"({"forms": [], "messages": [], "progress": [1, 1]})"_json);
     screen.begin_call(json::object());
-    CHECK(screen.end_call() == R"({"forms": [], "messages": [], "progress": []})"_json);
+    CHECK(screen.end_call() == R"({"forms": [], "messages": [], "progress": null})"_json);
 }

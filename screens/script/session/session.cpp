@@ -129,7 +129,6 @@ class Session {
         } catch (const Error& error) {
             throw ScriptError(fmt::format("{} cannot be opened: {}", path.string(), to_utf8(error.description())));
         }
-        host_.opened(path);
     }
 
     json select(const json& step, const std::string& where) {
@@ -155,7 +154,7 @@ class Session {
     }
 
     json call(const json& step, const std::string& where) {
-        require_keys(step, {"call", "args", "forms", "answers"}, where);
+        require_keys(step, {"call", "args", "forms", "answers", "ranges", "files"}, where);
         const Member<CCom>& member = find_member(required_text(step, "call", where));
         std::vector<Variant> arguments = arguments_of(member, list_at(step, "args", where));
         json entry{{"call", to_utf8(member.name)}, {"result", nullptr}, {"error", nullptr}};

@@ -14,8 +14,6 @@ struct SessionHost {
     Object application;
     // Runs a command so that the user can undo it as one step with that title.
     std::function<void(std::u16string_view title, const std::function<void()>& command)> undo_step;
-    // Called when a workbook has been opened from the file.
-    std::function<void(const std::filesystem::path& file)> opened;
     // Called when the file of an open workbook has got another place.
     std::function<void(const std::filesystem::path& from, const std::filesystem::path& to)> moved;
 };
