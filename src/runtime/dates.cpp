@@ -84,8 +84,8 @@ std::int64_t count_of(const CivilTime& civil) {
 }
 
 year_month_day first_of_month(std::int64_t months) {
-    constexpr std::int64_t first = 100 * 12;
-    constexpr std::int64_t last = 9999 * 12 + 11;
+    constexpr std::int64_t first = std::int64_t{100} * 12;
+    constexpr std::int64_t last = std::int64_t{9999} * 12 + 11;
     if (months < first || months > last) throw Error(ErrorNumber::invalid_call);
     return year{static_cast<int>(months / 12)} / month{static_cast<unsigned>(months % 12 + 1)} / day{1};
 }
@@ -103,7 +103,7 @@ Date date_serial(std::int32_t year, std::int32_t month, std::int32_t day) {
     const std::int32_t full_year = year < 0 || year > 99 ? year : year + (year < 30 ? 2000 : 1900);
     const std::int64_t months = std::int64_t{full_year} * 12 + month - 1;
     // Days can roll a month back into the calendar, though by no more than 90 years.
-    constexpr std::int64_t beyond_reach = 12'000 * 12;
+    constexpr std::int64_t beyond_reach = std::int64_t{12'000} * 12;
     if (months < 0 || months > beyond_reach) throw Error(ErrorNumber::invalid_call);
     const sys_days first_day{std::chrono::year{static_cast<int>(months / 12)} /
                              std::chrono::month{static_cast<unsigned>(months % 12 + 1)} / 1};

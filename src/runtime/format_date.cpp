@@ -150,7 +150,7 @@ std::u16string format_date(Date date, Symbols pattern, std::int32_t first_day_of
 
 std::u16string general_date(Date date) {
     const Context context{.date = date, .first_day_of_week = 1, .first_week_of_year = 1, .has_halves = false};
-    const std::u16string day = by(context, locale().short_date);
+    std::u16string day = by(context, locale().short_date);
     if (context.civil.time.to_duration().count() == 0) return day;
     const std::u16string time = by(context, locale().long_time);
     return std::trunc(date.serial) == 0 ? time : day + u' ' + time;

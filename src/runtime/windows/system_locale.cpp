@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include <iterator>
 #include <string_view>
+#include <utility>
 
 namespace qor {
 namespace {
