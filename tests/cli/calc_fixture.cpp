@@ -27,10 +27,10 @@ OUString file_url(const std::filesystem::path& path) {
     return url;
 }
 
-uno::Reference<sheet::XSpreadsheetDocument> load(const OUString& url) {
+uno::Reference<sheet::XSpreadsheetDocument> load(const OUString& url, const calc::PrivateOffice& owner) {
     const com::sun::star::beans::PropertyValue hidden("Hidden", 0, uno::Any(true),
                                                       com::sun::star::beans::PropertyState_DIRECT_VALUE);
-    return {frame::Desktop::create(office().context())->loadComponentFromURL(url, "_blank", 0, {&hidden, 1}),
+    return {frame::Desktop::create(owner.context())->loadComponentFromURL(url, "_blank", 0, {&hidden, 1}),
             uno::UNO_QUERY_THROW};
 }
 
@@ -46,8 +46,9 @@ calc::PrivateOffice& office() {
     return only;
 }
 
-CalcDocument::CalcDocument() : document_(load("private:factory/scalc")) {}
-CalcDocument::CalcDocument(const std::filesystem::path& file) : document_(load(file_url(file))) {}
+CalcDocument::CalcDocument() : document_(load("private:factory/scalc", office())) {}
+CalcDocument::CalcDocument(const std::filesystem::path& file, const calc::PrivateOffice& owner)
+    : document_(load(file_url(file), owner)) {}
 CalcDocument::~CalcDocument() {
     uno::Reference<com::sun::star::util::XCloseable>(document_, uno::UNO_QUERY_THROW)->close(true);
 }

@@ -17,7 +17,7 @@ calc::PrivateOffice& office();
 class CalcDocument {
   public:
     CalcDocument();  // a new one
-    explicit CalcDocument(const std::filesystem::path& file);
+    explicit CalcDocument(const std::filesystem::path& file, const calc::PrivateOffice& owner = office());
     CalcDocument(const CalcDocument&) = delete;
     CalcDocument& operator=(const CalcDocument&) = delete;
     ~CalcDocument();

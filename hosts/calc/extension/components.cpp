@@ -1,7 +1,6 @@
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <cppuhelper/weak.hxx>
 
-#include "hosts/calc/extension/repair_job.hpp"
 #include "hosts/calc/functions/add_in.hpp"
 #include "hosts/calc/session/session_service.hpp"
 
@@ -22,12 +21,8 @@ XInterface* counted(const Reference<XInterface>& object) {
 
 }  // namespace
 
-extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_functions(XComponentContext*, const Sequence<Any>&) {
-    return counted(qor::calc::function_add_in());
-}
-
-extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_repair_job(XComponentContext*, const Sequence<Any>&) {
-    return counted(qor::calc::make_repair_job());
+extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_functions(XComponentContext* context, const Sequence<Any>&) {
+    return counted(qor::calc::function_add_in(context));
 }
 
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_session(XComponentContext* context, const Sequence<Any>&) {

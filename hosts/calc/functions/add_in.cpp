@@ -11,6 +11,7 @@
 #include "functions/registry.hpp"
 #include "hosts/calc/functions/function_dispatcher.hpp"
 #include "hosts/calc/functions/function_interface.hpp"
+#include "hosts/calc/functions/load_watch.hpp"
 #include "hosts/calc/functions/wizard_text.hpp"
 #include "hosts/calc/uno/text.hpp"
 
@@ -100,9 +101,12 @@ class AddIn final
 
 }  // namespace
 
-uno::Reference<uno::XInterface> function_add_in() {
+uno::Reference<uno::XInterface> function_add_in(const uno::Reference<uno::XComponentContext>& context) {
     // Never destroyed: Calc keeps it until the process ends, when LibreOffice's libraries may be gone before ours.
-    static const auto* const add_in = new rtl::Reference<AddIn>(new AddIn);
+    static const auto* const add_in = [&] {
+        watch_loads(context);
+        return new rtl::Reference<AddIn>(new AddIn);
+    }();
     return static_cast<cppu::OWeakObject*>(add_in->get());
 }
 

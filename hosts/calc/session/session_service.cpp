@@ -9,7 +9,6 @@
 
 #include "hosts/calc/adapter/application.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
-#include "hosts/calc/functions/repair.hpp"
 #include "hosts/calc/session/open_documents.hpp"
 #include "hosts/calc/uno/main_thread.hpp"
 #include "hosts/calc/uno/text.hpp"
@@ -46,7 +45,6 @@ SessionHost session_host(const uno::Reference<uno::XComponentContext>& context) 
                 const UndoStep step{std::u16string(title)};
                 command();
             },
-        .opened = [context](const std::filesystem::path& file) { repair_function_names(document_of(context, file)); },
         .moved = [context](const std::filesystem::path& from,
                            const std::filesystem::path& to) { move_document(document_of(context, from), to); },
     };
