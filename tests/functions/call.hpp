@@ -10,11 +10,16 @@
 
 namespace qor::test {
 
-// The result of a financial function, called by its name.
-inline double call(std::u16string_view name, std::vector<Variant> arguments) {
+// The result of a function, called by its name.
+inline Variant result_of(std::u16string_view name, std::vector<Variant> arguments) {
     const Function* function = find_function(name);
     REQUIRE(function != nullptr);
-    const Variant result = function->invoke(std::move(arguments));
+    return function->invoke(std::move(arguments));
+}
+
+// The result of a financial function, called by its name.
+inline double call(std::u16string_view name, std::vector<Variant> arguments) {
+    const Variant result = result_of(name, std::move(arguments));
     REQUIRE(result.is(Variant::Kind::double_float));
     return *result.get_if<double>();
 }

@@ -10,6 +10,7 @@
 #include "functions/registry.hpp"
 #include "platform/text.hpp"
 #include "runtime/compare.hpp"
+#include "tests/runtime/country.hpp"
 #include "tests/runtime/raised.hpp"
 
 using namespace qor;
@@ -143,6 +144,7 @@ TEST_CASE("every function is fit to be shown to a user") {
 }
 
 TEST_CASE("every example comes out") {
+    const test::Country english(english_locale());
     for (const Function& function : worksheet_functions()) {
         for (const Example& example : function.examples) {
             const Variant result = function.invoke(example.arguments);
