@@ -1,12 +1,19 @@
 #include <doctest/doctest.h>
 #include <fmt/format.h>
 
+#include <array>
 #include <chrono>
+#include <com/sun/star/beans/NamedValue.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <com/sun/star/task/XJob.hpp>
 #include <csignal>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <thread>
 
+#include "hosts/calc/uno/text.hpp"
+#include "platform/text.hpp"
+#include "tests/cli/calc_fixture.hpp"
 #include "tests/cli/program_run.hpp"
 #include "tests/cli/temporary_folder.hpp"
 
@@ -46,6 +53,25 @@ class Workplace {
     TemporaryFolder folder_;
     TemporaryFolder scripts_;
 };
+
+// Plays a script in the office of these tests, as the program's own office does.
+json play_in_office(const json& script, const Workplace& place) {
+    namespace beans = com::sun::star::beans;
+    namespace uno = com::sun::star::uno;
+    const auto named_text = [](const char* name, const std::string& text) {
+        return beans::NamedValue(rtl::OUString::createFromAscii(name), uno::Any(calc::to_uno(from_utf8(text))));
+    };
+    const TemporaryFolder temporary;
+    const std::array arguments{named_text("Script", script.dump()), named_text("Folder", place.path()),
+                               named_text("TemporaryFolder", temporary.path()), named_text("HiddenName", ".writing")};
+    const uno::Reference<com::sun::star::task::XJob> session(
+        office().context()->getServiceManager()->createInstanceWithContext("com.ombrel.qorplus.Session",
+                                                                           office().context()),
+        uno::UNO_QUERY_THROW);
+    rtl::OUString answer;
+    session->execute({arguments.data(), static_cast<sal_Int32>(arguments.size())}) >>= answer;
+    return json::parse(to_utf8(calc::view_of(answer)));
+}
 
 struct Refusal {
     const char* step;
@@ -88,7 +114,7 @@ TEST_CASE("a script selects, calls, reads and saves") {
     CHECK(place.files() == std::vector<std::string>{"book.xlsx", "copy.ods"});
 }
 
-TEST_CASE("a script that does not fit is told in one line, and nothing is left behind") {
+TEST_CASE("a script that does not fit is told, and nothing is left behind") {
     const Workplace place;
     for (const auto& [step, told] : {
              Refusal{R"({"dance": 1})", "step 1 is none of select, call, read and save"},
@@ -109,8 +135,15 @@ TEST_CASE("a script that does not fit is told in one line, and nothing is left b
              Refusal{R"({"save": "active", "as": "book.xlsx/out.xlsx"})", "nothing can be written in"},
          }) {
         CAPTURE(step);
-        check_refusal(place.run(json::array({json::parse(step)})), 2, told);
+        const json answer = play_in_office({{"open", {"book.xlsx"}}, {"steps", {json::parse(step)}}}, place);
+        REQUIRE(answer.contains("error"));
+        CHECK(answer["error"]["kind"] == "script");
+        const std::string message = answer["error"]["message"];
+        CAPTURE(message);
+        CHECK(message.find(told) != message.npos);
+        CHECK(message.find('\n') == message.npos);
     }
+    check_refusal(place.run(json::parse(R"([{"call": "NOPE"}])")), 2, "no member \"NOPE\"; there are: ");
     CHECK(place.files() == std::vector<std::string>{"book.xlsx"});
 }
 
