@@ -23,6 +23,7 @@ std::vector<FunctionDeclaration> inventory_and_cash_functions();
 std::vector<FunctionDeclaration> workforce_functions();
 std::vector<FunctionDeclaration> date_functions();
 std::vector<FunctionDeclaration> logical_functions();
+std::vector<FunctionDeclaration> information_functions();
 std::vector<FunctionDeclaration> reserved_name_functions();
 
 }  // namespace qor

@@ -29,6 +29,7 @@ constexpr std::array families{
     workforce_functions,
     date_functions,
     logical_functions,
+    information_functions,
 };
 
 std::unordered_map<std::u16string_view, FunctionDeclaration> declared_functions() {
