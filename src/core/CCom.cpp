@@ -1,6 +1,6 @@
 #include "core/CCom.hpp"
 
-#include <filesystem>
+#include <algorithm>
 
 #include "automation/member_names.hpp"
 #include "core/CReg.hpp"
@@ -10,6 +10,7 @@
 #include "functions/registration.hpp"
 #include "functions/registry.hpp"
 #include "runtime/bind.hpp"
+#include "services/CDrive.hpp"
 
 namespace qor {
 namespace {
@@ -68,6 +69,17 @@ void add_functions(std::vector<Row>& rows, std::span<const Function> functions) 
     }
 }
 
+// The object's table of number words is loaded by the first call of NUMBERTOWORDS; HundredsTensUnits only reads it.
+void add_number_words(std::vector<Row>& rows) {
+    Row& row = *std::ranges::find(rows, u"NUMBERTOWORDS", &Row::name);
+    row.invoke = [compute = std::move(row.invoke)](CCom& self, Access access, std::span<Variant> arguments) {
+        Variant words = compute(self, access, arguments);
+        self.load_number_words();
+        return words;
+    };
+    rows.push_back(method<&CCom::HundredsTensUnits>(u"HundredsTensUnits", {u"TestValue", u"UseAnd"}));
+}
+
 }  // namespace
 
 const MemberTable<CCom>& CCom::members() {
@@ -78,6 +90,7 @@ const MemberTable<CCom>& CCom::members() {
         add_tools(rows);
         add_functions(rows, worksheet_functions());
         add_functions(rows, reserved_functions());
+        add_number_words(rows);
         return rows;
     }());
     return table;
@@ -121,14 +134,17 @@ void CCom::QOpenHelp(const Object& objoleEx) {
 }
 
 void CCom::QSetCurrDir(const std::u16string& sSetCurrDir) {
-    std::error_code refused;
-    std::filesystem::current_path(sSetCurrDir, refused);
+    CDrive::SetCurrDir(sSetCurrDir);
 }
 
 void CCom::QSetupFunc(const Object& objoleEx) {
     gExcel = objoleEx;
     attempt([&] { setup_functions(gExcel, QHelpFile); });
     gExcel = Object();
+}
+
+std::u16string CCom::HundredsTensUnits(std::int16_t TestValue, std::optional<bool>& UseAnd) const {
+    return hundreds_tens_units(words_, TestValue, UseAnd.value_or(false));
 }
 
 }  // namespace qor

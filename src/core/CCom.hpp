@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "automation/member_table.hpp"
+#include "functions/number_words.hpp"
 
 namespace qor {
 
@@ -41,6 +43,13 @@ class CCom final : public Dispatch {
     void QOpenHelp(const Object& objoleEx);
     void QSetCurrDir(const std::u16string& sSetCurrDir);
     void QSetupFunc(const Object& objoleEx);
+
+    // The words of a number below 1000. Raises 9 for a number above 0 until NUMBERTOWORDS has been called once.
+    std::u16string HundredsTensUnits(std::int16_t TestValue, std::optional<bool>& UseAnd) const;
+    void load_number_words() noexcept { words_ = number_words(); }
+
+  private:
+    NumberWords words_;
 };
 
 }  // namespace qor

@@ -55,7 +55,12 @@ struct Signature<R (T::*)(A...)> {
                 using Parameter = std::tuple_element_t<i, std::tuple<A...>>;
                 if constexpr (std::is_lvalue_reference_v<Parameter> &&
                               !std::is_const_v<std::remove_reference_t<Parameter>>) {
-                    if (i < arguments.size()) arguments[i] = Variant(std::get<i>(values));
+                    if (i >= arguments.size()) return;
+                    if constexpr (!OptionalOf<std::tuple_element_t<i, Values>>::value) {
+                        arguments[i] = Variant(std::get<i>(values));
+                    } else if (std::get<i>(values)) {
+                        arguments[i] = Variant(*std::get<i>(values));
+                    }
                 }
             };
             (one.template operator()<place>(), ...);
