@@ -21,9 +21,10 @@ std::vector<FunctionDeclaration> interest_and_present_value_functions();
 std::vector<FunctionDeclaration> option_and_right_functions();
 std::vector<FunctionDeclaration> inventory_and_cash_functions();
 std::vector<FunctionDeclaration> workforce_functions();
-std::vector<FunctionDeclaration> number_and_name_functions();
 std::vector<FunctionDeclaration> date_functions();
+std::vector<FunctionDeclaration> number_and_name_functions();
 std::vector<FunctionDeclaration> logical_functions();
+std::vector<FunctionDeclaration> information_functions();
 std::vector<FunctionDeclaration> reserved_name_functions();
 
 }  // namespace qor

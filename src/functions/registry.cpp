@@ -27,9 +27,10 @@ constexpr std::array families{
     option_and_right_functions,
     inventory_and_cash_functions,
     workforce_functions,
-    number_and_name_functions,
     date_functions,
+    number_and_name_functions,
     logical_functions,
+    information_functions,
 };
 
 std::unordered_map<std::u16string_view, FunctionDeclaration> declared_functions() {
