@@ -230,6 +230,27 @@ TEST_CASE("registration stops at the first refusal and the start goes on") {
     CHECK_FALSE(gExcel);
 }
 
+TEST_CASE("the start registers all functions, those of the companion too") {
+    Installation installation;
+    std::vector<std::u16string> registered;
+    installation.application->answer = [&](const MemberName&, Arguments arguments) {
+        registered.push_back(text_of(arguments.named[0].value));
+        CHECK(text_of(arguments.named[4].value) == u"help.chm");
+        return Variant();
+    };
+    const Object com = make_object<CCom>();
+    com.put(QHelpFile, u"help.chm");
+    com.call(QSetupFunc, installation.application_object);
+    REQUIRE(registered.size() == 207);
+    CHECK(registered.front() == u"APT");
+    CHECK(registered[201] == u"CELLINFO");
+    CHECK(registered.back() == u"WRKSHTINFO");
+    for (const auto* name : {u"CELLINFO", u"EXCELUSERNAME", u"WRKBKINFO", u"WRKSHTINFO"}) {
+        CHECK_FALSE(CCom::members().find(MemberName(name)));
+    }
+    CHECK_FALSE(gExcel);
+}
+
 TEST_CASE("every worksheet function is a member with its parameters' names") {
     Installation installation;
     const Object com = make_object<CCom>();
