@@ -64,6 +64,7 @@ void become_calc(const std::vector<std::string>& files) {
                                        "-env:BUNDLED_EXTENSIONS=" + file_url(extensions)};
     for (const std::string& file : files) arguments.push_back(fs::absolute(file));
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) pointers.push_back(argument.data());
     pointers.push_back(nullptr);
     ::execv(pointers.front(), pointers.data());

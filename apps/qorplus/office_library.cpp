@@ -21,7 +21,7 @@ void* load(const std::filesystem::path& library) {
 std::filesystem::path library_folder() {
     const std::filesystem::path program_folder = std::filesystem::read_symlink("/proc/self/exe").parent_path();
     for (const char* place : {"../lib/qorplus", "../../lib/qorplus"}) {
-        const std::filesystem::path folder = (program_folder / place).lexically_normal();
+        std::filesystem::path folder = (program_folder / place).lexically_normal();
         if (std::filesystem::is_directory(folder)) return folder;
     }
     throw UsageError("this program is not whole: there is no lib/qorplus beside " + program_folder.string());

@@ -11,8 +11,11 @@
 #include <map>
 
 #include "functions/registry.hpp"
+#include "hosts/calc/functions/parameter_type.hpp"
+#include "hosts/calc/functions/wizard_text.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
+#include "runtime/conversion.hpp"
 #include "tests/cli/calc_fixture.hpp"
 #include "tests/cli/temporary_folder.hpp"
 
@@ -36,6 +39,25 @@ uno::Reference<uno::XInterface> create(const char* service) {
 
 std::string utf8(const OUString& text) {
     return to_utf8(calc::view_of(text));
+}
+
+OUString in_formula(const Variant& value) {
+    if (value.is_missing()) return {};
+    if (const auto* text = value.get_if<std::u16string>())
+        return "\"" + calc::to_uno(*text).replaceAll("\"", "\"\"") + "\"";
+    if (const auto* truth = value.get_if<bool>()) return *truth ? OUString("TRUE()") : OUString("FALSE()");
+    if (const auto* date = value.get_if<Date>()) return OUString::number(date->serial);
+    return OUString::number(to_double(value));
+}
+
+// What a cell shows that holds the value itself.
+std::string shown_in_cell(const CalcDocument& book, const Variant& value) {
+    if (const auto* text = value.get_if<std::u16string>()) return to_utf8(*text);
+    if (value.is_empty()) return {};
+    if (const auto* truth = value.get_if<bool>()) return *truth ? "1" : "0";
+    const auto* date = value.get_if<Date>();
+    book.cell("B1")->setValue(date ? date->serial : to_double(value));
+    return book.shown("B1");
 }
 
 std::map<std::string, uno::Sequence<beans::PropertyValue>> wizard_entries() {
@@ -70,7 +92,7 @@ TEST_CASE("a worksheet function computes in a cell") {
     book.enter("C3", "9");
     book.enter("D1", "=1/0");
     book.enter("D2", "'words");
-    for (const auto& [formula, shown] : {
+    for (const Case& one : {
              Case{"=ARNS(100;300;1000)", "0.2"},
              Case{"=arns(100;300;1000)", "0.2"},
              Case{"=ARA(1;3)", "0.3333"},
@@ -94,9 +116,9 @@ TEST_CASE("a worksheet function computes in a cell") {
              Case{"=ARA(5)", "Err:504"},
              Case{"=ARA(5;2;3;4)", "Err:504"},
          }) {
-        CAPTURE(formula);
-        book.enter("A1", formula);
-        CHECK(book.shown("A1") == shown);
+        CAPTURE(one.formula);
+        book.enter("A1", one.formula);
+        CHECK(book.shown("A1") == one.shown);
     }
 }
 
@@ -121,20 +143,13 @@ TEST_CASE("every example of every function computes in a cell") {
     CalcDocument book;
     for (const Function& function : worksheet_functions()) {
         for (const Example& example : function.examples) {
-            const double* expected = example.result.get_if<double>();
-            REQUIRE(expected);
-            OUString formula = "=" + calc::to_uno(function.name) + "(";
-            for (std::size_t place = 0; place < example.arguments.size(); ++place) {
-                const double* number = example.arguments[place].get_if<double>();
-                const std::int32_t* whole = example.arguments[place].get_if<std::int32_t>();
-                REQUIRE((number || whole));
-                formula += (place > 0 ? OUString(";") : OUString()) +
-                           OUString::number(number ? *number : static_cast<double>(*whole));
-            }
+            OUString formula = "=_xll." + calc::to_uno(function.name) + "(";
+            for (std::size_t place = 0; place < example.arguments.size(); ++place)
+                formula += (place > 0 ? OUString(";") : OUString()) + in_formula(example.arguments[place]);
             book.cell("A1")->setFormula(formula + ")");
             CAPTURE(utf8(formula));
             CHECK(book.cell("A1")->getError() == 0);
-            CHECK(book.value("A1") == *expected);
+            CHECK(book.shown("A1") == shown_in_cell(book, example.result));
         }
     }
 }
@@ -142,7 +157,7 @@ TEST_CASE("every example of every function computes in a cell") {
 TEST_CASE("the function wizard knows every function and all its arguments") {
     const auto entries = wizard_entries();
     for (const Function& function : worksheet_functions()) {
-        const std::string name = to_utf8(to_upper(function.name));  // so Calc shows all names
+        const std::string name = to_utf8(to_upper(calc::display_name(function)));  // so Calc shows all
         CAPTURE(name);
         const auto found = entries.find(name);
         REQUIRE(found != entries.end());
@@ -153,7 +168,8 @@ TEST_CASE("the function wizard knows every function and all its arguments") {
             const auto& argument = arguments[static_cast<sal_Int32>(place)];
             CHECK(utf8(argument.Name) == to_utf8(function.parameters[place].name));
             CHECK_FALSE(argument.Description.isEmpty());
-            CHECK((argument.IsOptional != 0) == function.parameters[place].is_optional());
+            // Calc takes every argument for optional whose kind it leaves to the function.
+            CHECK((argument.IsOptional != 0) == !calc::is_plain_number(function.parameters[place]));
         }
     }
     const auto& arns = entries.at("ARNS");
@@ -202,6 +218,25 @@ TEST_CASE("bare names in another program's file are repaired when it is loaded")
     CHECK(book.value("C4") == 5.5);
     CHECK(book.shown("C5") == "#NAME?");
     CHECK(book.shown("C6") == "ARA(1,2)x");
+}
+
+TEST_CASE("a name that Calc has already goes on meaning Calc's function") {
+    CalcDocument book;
+    book.enter("A1", "=ISLEAPYEAR(DATE(2000;6;1))");
+    CHECK(book.value("A1") == 1);
+    book.enter("A1", "=ISLEAPYEAR(2000)");  // a day in June 1905
+    CHECK(book.value("A1") == 0);
+    book.enter("A2", "=_xll.ISLEAPYEAR(2000)");
+    CHECK(book.value("A2") == 1);
+    const TemporaryFolder folder;
+    for (const char* name : {"book.ods", "book.xlsx"}) {
+        CAPTURE(name);
+        book.store(folder.path() / name);
+        const CalcDocument again(folder.path() / name);
+        again.calculate();
+        CHECK(again.value("A1") == 0);
+        CHECK(again.value("A2") == 1);
+    }
 }
 
 }  // namespace qor::cli

@@ -24,7 +24,7 @@ struct Refusal {
 }  // namespace
 
 TEST_CASE("call prints a function's result") {
-    for (const auto& [words, printed] : {
+    for (const Call& call : {
              Call{{"call", "ARNS", "100", "300", "1000"}, "0.2"},
              Call{{"call", "arns", "100", "300", "1000"}, "0.2"},
              Call{{"call", "ARA", "-5", "2"}, "-2.5"},
@@ -40,10 +40,10 @@ TEST_CASE("call prints a function's result") {
              Call{{"call", "ARA", "date:1900-01-01", "1"}, "2"},
              Call{{"call", "ARA", "date:1900-01-01T12:00:00", "1"}, "2.5"},
          }) {
-        CAPTURE(words);
-        const Outcome outcome = run_program(words);
+        CAPTURE(call.words);
+        const Outcome outcome = run_program(call.words);
         CHECK(outcome.exit_code == 0);
-        CHECK(outcome.output == std::string(printed) + "\n");
+        CHECK(outcome.output == std::string(call.printed) + "\n");
         CHECK(outcome.errors.empty());
     }
 }

@@ -116,7 +116,7 @@ TEST_CASE("a script selects, calls, reads and saves") {
 
 TEST_CASE("a script that does not fit is told, and nothing is left behind") {
     const Workplace place;
-    for (const auto& [step, told] : {
+    for (const Refusal& refusal : {
              Refusal{R"({"dance": 1})", "step 1 is none of select, call, read and save"},
              Refusal{R"({"call": "ARA", "arg": [1]})", "unknown key \"arg\"; known are"},
              Refusal{R"({"call": "NOPE"})", "no member \"NOPE\"; there are: "},
@@ -134,13 +134,13 @@ TEST_CASE("a script that does not fit is told, and nothing is left behind") {
              Refusal{R"({"save": "active", "as": "no/such/folder/out.xlsx"})", "no/such/folder"},
              Refusal{R"({"save": "active", "as": "book.xlsx/out.xlsx"})", "nothing can be written in"},
          }) {
-        CAPTURE(step);
-        const json answer = play_in_office({{"open", {"book.xlsx"}}, {"steps", {json::parse(step)}}}, place);
+        CAPTURE(refusal.step);
+        const json answer = play_in_office({{"open", {"book.xlsx"}}, {"steps", {json::parse(refusal.step)}}}, place);
         REQUIRE(answer.contains("error"));
         CHECK(answer["error"]["kind"] == "script");
         const std::string message = answer["error"]["message"];
         CAPTURE(message);
-        CHECK(message.find(told) != message.npos);
+        CHECK(message.find(refusal.told) != message.npos);
         CHECK(message.find('\n') == message.npos);
     }
     check_refusal(place.run(json::parse(R"([{"call": "NOPE"}])")), 2, "no member \"NOPE\"; there are: ");

@@ -16,7 +16,6 @@
 namespace qor::cli {
 namespace {
 
-namespace beans = com::sun::star::beans;
 namespace deployment = com::sun::star::deployment;
 namespace task = com::sun::star::task;
 namespace ucb = com::sun::star::ucb;

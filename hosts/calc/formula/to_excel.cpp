@@ -205,12 +205,12 @@ class ToExcel {
             return;
         }
         static constexpr std::u16string_view add_in = u"_XLL.";
-        const auto known = names_.excel_by_calc.find(name);
-        if (known != names_.excel_by_calc.end()) {
-            in_.put(known->second);
-        } else {
-            in_.put(name.starts_with(add_in) ? word.substr(add_in.size()) : word);
+        if (name.starts_with(add_in)) {
+            in_.put(word.substr(add_in.size()));
+            return;
         }
+        const auto known = names_.excel_by_calc.find(name);
+        in_.put(known == names_.excel_by_calc.end() ? word : std::u16string_view(known->second));
     }
 
     const FunctionNames& names_;

@@ -14,6 +14,7 @@
 #include "hosts/calc/functions/load_watch.hpp"
 #include "hosts/calc/functions/wizard_text.hpp"
 #include "hosts/calc/uno/text.hpp"
+#include "platform/text.hpp"
 
 namespace qor::calc {
 namespace {
@@ -43,11 +44,16 @@ class AddIn final
         return types;
     }
 
-    OUString SAL_CALL getProgrammaticFuntionName(const OUString& display_name) override {
-        const Function* function = find_function(view_of(display_name));
-        return function ? to_uno(function->name) : OUString();
+    OUString SAL_CALL getProgrammaticFuntionName(const OUString& shown) override {
+        for (const Function& function : worksheet_functions()) {
+            if (equal_ignoring_case(display_name(function), view_of(shown))) return to_uno(function.name);
+        }
+        return {};
     }
-    OUString SAL_CALL getDisplayFunctionName(const OUString& name) override { return name; }
+    OUString SAL_CALL getDisplayFunctionName(const OUString& name) override {
+        const Function* function = find_function(view_of(name));
+        return function ? to_uno(display_name(*function)) : OUString();
+    }
     OUString SAL_CALL getFunctionDescription(const OUString& name) override {
         const Function* function = find_function(view_of(name));
         return function ? to_uno(function->description) : OUString();

@@ -1,5 +1,8 @@
 #include "hosts/calc/functions/wizard_text.hpp"
 
+#include <algorithm>
+#include <array>
+
 #include "runtime/conversion.hpp"
 
 namespace qor::calc {
@@ -37,6 +40,12 @@ std::u16string_view calc_category(Category category) {
             return u"Information";
     }
     return u"Add-In";
+}
+
+std::u16string display_name(const Function& function) {
+    static constexpr std::array<std::u16string_view, 1> taken_by_calc{u"ISLEAPYEAR"};
+    const bool taken = std::ranges::find(taken_by_calc, function.name) != taken_by_calc.end();
+    return (taken ? u"_XLL." : u"") + std::u16string(function.name);
 }
 
 std::u16string parameter_description(const Parameter& parameter) {

@@ -52,7 +52,7 @@ SessionHost session_host(const uno::Reference<uno::XComponentContext>& context) 
 
 class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XServiceInfo> {
   public:
-    explicit SessionService(uno::Reference<uno::XComponentContext> context) : context_(std::move(context)) {}
+    explicit SessionService(const uno::Reference<uno::XComponentContext>& context) : context_(context) {}
 
     uno::Any SAL_CALL execute(const Arguments& arguments) override {
         const json answer = play(arguments);

@@ -1,5 +1,7 @@
 #include "screens/script/session/range_text.hpp"
 
+#include <algorithm>
+
 #include "automation/member_names.hpp"
 #include "runtime/conversion.hpp"
 #include "screens/script/session/json_value.hpp"
@@ -29,12 +31,9 @@ void read_formats(const Object& range, const Part& part, json& table) {
     const Variant format = part_of(range, part).get(names::NumberFormat);
     if (!format.is(Variant::Kind::null) || (part.rows == 1 && part.columns == 1)) {
         const json text = to_json(format);
-        for (std::int32_t row = 0; row < part.rows; ++row) {
-            for (std::int32_t column = 0; column < part.columns; ++column) {
-                table[static_cast<std::size_t>(part.first_row - 1 + row)]
-                     [static_cast<std::size_t>(part.first_column - 1 + column)] = text;
-            }
-        }
+        const auto rows = table.begin() + (part.first_row - 1);
+        for (auto row = rows; row != rows + part.rows; ++row)
+            std::fill_n(row->begin() + (part.first_column - 1), part.columns, text);
         return;
     }
     Part first = part;
@@ -61,7 +60,7 @@ json formulas_of(const Object& range) {
     json table = table_of(range.get(names::Formula));
     for (json& row : table) {
         for (json& cell : row) {
-            if (cell == "") cell = nullptr;
+            if (cell.is_string() && cell.get_ref<const std::string&>().empty()) cell = nullptr;
         }
     }
     return table;

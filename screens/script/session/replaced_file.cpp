@@ -23,7 +23,7 @@ ReplacedFile::~ReplacedFile() {
 }
 
 std::filesystem::path ReplacedFile::replace(const std::filesystem::path& written) const {
-    const std::filesystem::path place = target_.parent_path() / written.filename();
+    std::filesystem::path place = target_.parent_path() / written.filename();
     std::error_code refused;
     std::filesystem::rename(written, place, refused);
     if (refused) throw ScriptError(fmt::format("{} cannot be replaced: {}", place.string(), refused.message()));

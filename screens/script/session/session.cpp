@@ -93,7 +93,7 @@ class Session {
 
     std::filesystem::path data_folder() const {
         if (script_.contains("data")) {
-            const auto folder = path_of(required_text(script_, "data", "the script"), folders_.current);
+            auto folder = path_of(required_text(script_, "data", "the script"), folders_.current);
             if (!std::filesystem::is_directory(folder)) throw ScriptError("there is no folder " + folder.string());
             return folder;
         }

@@ -13,6 +13,7 @@ namespace {
 
 std::vector<std::string> names_of(const std::vector<Variant>& items) {
     std::vector<std::string> result;
+    result.reserve(items.size());
     for (const Variant& item : items) result.push_back(name_of(item.object()));
     return result;
 }
