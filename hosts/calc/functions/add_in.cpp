@@ -25,7 +25,7 @@ namespace uno = com::sun::star::uno;
 using rtl::OUString;
 
 // Calc's view of the worksheet functions: their names, their texts in the function wizard, and, by the function
-// interface, the functions themselves. A function's programmatic name and its name in a cell are the same.
+// interface, the functions themselves. A function's programmatic name is the one in the table.
 class AddIn final
     : public cppu::WeakImplHelper4<sheet::XAddIn, sheet::XCompatibilityNames, lang::XServiceName, lang::XServiceInfo> {
   public:
