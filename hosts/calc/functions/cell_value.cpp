@@ -58,7 +58,7 @@ void result_to_cell(const Variant& value, uno_Any& result) noexcept {
     if (const auto* money = value.get_if<Currency>())
         return construct(result, static_cast<double>(money->ten_thousandths) / 10'000);
     if (const auto* number = value.get_if<float>()) return construct(result, static_cast<double>(*number));
-    if (value.is_empty()) return construct(result, std::u16string_view{});
+    if (value.is_empty()) return construct(result, 0.0);
     error_to_cell(result);
 }
 
