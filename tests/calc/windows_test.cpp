@@ -12,9 +12,7 @@ namespace {
 void open_second_window() {
     const Ref desktop{css::frame::Desktop::create(office_context())};
     const css::uno::Reference<css::frame::XDispatchProvider> frame(desktop->getCurrentFrame(), css::uno::UNO_QUERY);
-    Ref {
-        css::frame::DispatchHelper::create(office_context())
-        } -> executeDispatch(frame, ".uno:NewWindow", {}, 0, {});
+    Ref(css::frame::DispatchHelper::create(office_context()))->executeDispatch(frame, ".uno:NewWindow", {}, 0, {});
 }
 
 }  // namespace

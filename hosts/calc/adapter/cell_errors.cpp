@@ -36,9 +36,7 @@ using Position = std::pair<std::int32_t, std::int32_t>;
 std::set<Position> cells_showing(const Cells& cells, const rtl::OUString& text) {
     const Ref<css::util::XSearchable> searchable(cells);
     const css::uno::Reference<css::util::XSearchDescriptor> search = searchable->createSearchDescriptor();
-    Ref {
-        search
-        } -> setSearchString(text);
+    Ref(search)->setSearchString(text);
     constexpr sal_Int16 in_values = 1;
     set_property(Ref{search}, "SearchType", in_values);
     set_property(Ref{search}, "SearchWords", true);

@@ -77,11 +77,7 @@ class Reading {
   private:
     Ref<css::sheet::XCellRangesQuery> query() const { return Ref<css::sheet::XCellRangesQuery>(cells_); }
 
-    Places formula_cells() const {
-        return Ref {
-            query()->queryFormulaCells(any_result)
-            } -> getRangeAddresses();
-    }
+    Places formula_cells() const { return Ref(query()->queryFormulaCells(any_result))->getRangeAddresses(); }
 
     Texts formula_texts() const { return Ref<css::sheet::XCellRangeFormula>(cells_)->getFormulaArray(); }
 
@@ -151,9 +147,7 @@ class Reading {
 
     // An xls file brings Booleans as formulas in cells of a plain format.
     void apply_constants() {
-        const Places places = Ref {
-            query()->queryFormulaCells(css::sheet::FormulaResult::VALUE)
-            } -> getRangeAddresses();
+        const Places places = Ref(query()->queryFormulaCells(css::sheet::FormulaResult::VALUE))->getRangeAddresses();
         if (places.getLength() == 0) return;
         const Texts texts = formula_texts();
         for_each(places, [&](std::size_t place) {
@@ -163,9 +157,7 @@ class Reading {
     }
 
     void apply_errors() {
-        const Places places = Ref {
-            query()->queryFormulaCells(css::sheet::FormulaResult::ERROR)
-            } -> getRangeAddresses();
+        const Places places = Ref(query()->queryFormulaCells(css::sheet::FormulaResult::ERROR))->getRangeAddresses();
         for (const CellError& error : cell_errors(cells_, places)) {
             table_.at(place_of(error.column, error.row)) = ErrorValue{error.code};
         }
@@ -187,8 +179,7 @@ class Reading {
     }
     template <class Visit>
     void for_each(const css::uno::Reference<css::sheet::XSheetCellRanges>& ranges, Visit visit) {
-        for_each(
-            Ref { ranges } -> getRangeAddresses(), visit);
+        for_each(Ref(ranges)->getRangeAddresses(), visit);
     }
 
     Variant result() {

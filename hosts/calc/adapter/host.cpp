@@ -39,9 +39,7 @@ Document Host::active_document() {
 void Host::activate(const Document& document) {
     if (!has_visible_window(document)) return;
     const Ref controller{Ref<css::frame::XModel>(document)->getCurrentController()};
-    Ref {
-        controller->getFrame()
-        } -> activate();
+    Ref(controller->getFrame())->activate();
     last_active_ = document;
 }
 

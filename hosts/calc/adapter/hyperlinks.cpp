@@ -48,7 +48,7 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
         std::int32_t links = 0;
         for (sal_Int32 i = fields->getCount(); i > 0; --i) {
             const Ref<css::beans::XPropertySet> field(fields->getByIndex(i - 1));
-            if (Ref { field->getPropertySetInfo() } -> hasPropertyByName("URL")) ++links;
+            if (Ref(field->getPropertySetInfo())->hasPropertyByName("URL")) ++links;
         }
         return links;
     }

@@ -90,9 +90,7 @@ Object RangeObject::add_comment(std::optional<std::u16string> text) {
     before_formatting(areas_);
     const css::table::CellAddress cell{static_cast<sal_Int16>(areas_.sheet.index()), area.left, area.top};
     const Ref<css::sheet::XSheetAnnotationsSupplier> supplier(areas_.sheet.sheet);
-    Ref {
-        supplier->getAnnotations()
-        } -> insertNew(cell, to_uno(text.value_or(u" ")));
+    Ref(supplier->getAnnotations())->insertNew(cell, to_uno(text.value_or(u" ")));
     return make_comment(areas_.sheet, cell);
 }
 

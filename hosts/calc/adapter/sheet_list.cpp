@@ -15,7 +15,7 @@ namespace {
 
 std::set<std::u16string> names_in_capitals(const Book& book) {
     std::set<std::u16string> names;
-    for (const rtl::OUString& name : Ref { book.document->getSheets() } -> getElementNames()) {
+    for (const rtl::OUString& name : Ref(book.document->getSheets())->getElementNames()) {
         names.insert(to_upper(view_of(name)));
     }
     return names;
@@ -69,9 +69,7 @@ void delete_sheet(const Sheet& sheet) {
         std::ranges::count_if(all, [](const Sheet& each) { return get_property<bool>(each.sheet, "IsVisible"); });
     if (visible == 1 && get_property<bool>(sheet.sheet, "IsVisible")) throw Error(ErrorNumber::host_refused);
     before_change(sheet.book);
-    Ref {
-        sheet.book.document->getSheets()
-        } -> removeByName(to_uno(sheet.name()));
+    Ref(sheet.book.document->getSheets())->removeByName(to_uno(sheet.name()));
 }
 
 }  // namespace qor::calc

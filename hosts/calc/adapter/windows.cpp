@@ -57,9 +57,7 @@ class WindowObject final : public CalcObject<WindowObject> {
     }
 
     void activate() {
-        Ref {
-            controller_->getFrame()
-            } -> activate();
+        Ref(controller_->getFrame())->activate();
         book_.host->activate(book_.document);
     }
 

@@ -41,9 +41,8 @@ bool cuts_array(const Sheet& sheet, const Cells& cells) {
     const Rectangle area = rectangle_of(cells);
     constexpr sal_Int32 any_result =
         css::sheet::FormulaResult::VALUE | css::sheet::FormulaResult::STRING | css::sheet::FormulaResult::ERROR;
-    const auto formulas = Ref {
-        Ref<css::sheet::XCellRangesQuery>(cells)->queryFormulaCells(any_result)
-        } -> getRangeAddresses();
+    const auto formulas =
+        Ref(Ref<css::sheet::XCellRangesQuery>(cells)->queryFormulaCells(any_result))->getRangeAddresses();
     std::vector<Rectangle> known;
     for (const css::table::CellRangeAddress& at : formulas) {
         const Cells run = cells_at(sheet, {at.StartColumn, at.StartRow, at.EndColumn, at.EndRow});
