@@ -31,7 +31,7 @@ bool is_less(const Variant& left, const Variant& right) {
         if (const auto* right_text = right.get_if<std::u16string>()) return *left_text < *right_text;
     }
     bool result = false;
-    attempt([&] { result = compare(left, right) < 0; });
+    attempt([&] { result = std::is_lt(compare(left, right)); });
     return result;
 }
 

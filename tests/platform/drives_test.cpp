@@ -59,8 +59,8 @@ TEST_CASE("of several mounts on one folder the last one counts") {
 }
 
 TEST_CASE("letters end with Z, and C is there even without a table") {
-    std::vector<Mount> table;
-    for (int number = 0; number < 30; ++number) table.push_back(mounted_on(("/mnt/" + std::to_string(number)).c_str()));
+    std::vector<Mount> table(30, mounted_on("/mnt/"));
+    for (std::size_t place = 0; place < table.size(); ++place) table[place].folder += std::to_string(place);
     const auto drives = lettered_mounts(table);
     REQUIRE(drives.size() == 24);
     CHECK(drives.back().letter == u'Z');

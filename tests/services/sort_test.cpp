@@ -24,8 +24,8 @@ std::vector<Variant> values_of(const std::vector<std::int32_t>& numbers) {
 }
 
 std::vector<std::int32_t> numbers_of(const std::vector<Variant>& values) {
-    std::vector<std::int32_t> numbers;
-    for (const Variant& value : values) numbers.push_back(to_long(value));
+    std::vector<std::int32_t> numbers(values.size());
+    std::ranges::transform(values, numbers.begin(), to_long);
     return numbers;
 }
 
@@ -151,8 +151,8 @@ TEST_CASE("texts are sorted by their code units, numbers before them") {
     for (const Sort sort : sorts) {
         std::vector<Variant> values{u"b", u"B", u"\u00E4", u"", u"a1", u"a", 10, 9.5, u"10", u"9"};
         sort(values, 0, last_of(values));
-        std::vector<std::u16string> texts;
-        for (const Variant& value : values) texts.push_back(to_text(value));
+        std::vector<std::u16string> texts(values.size());
+        std::ranges::transform(values, texts.begin(), to_text);
         CHECK(texts ==
               std::vector<std::u16string>{u"9.5", u"10", u"", u"10", u"9", u"B", u"a", u"a1", u"b", u"\u00E4"});
     }
@@ -188,8 +188,8 @@ TEST_CASE("an insertion sort keeps equal elements in their order") {
     using Kind = Variant::Kind;
     const std::vector<Kind> expected{Kind::long_integer, Kind::double_float, Kind::date,
                                      Kind::double_float, Kind::long_integer, Kind::double_float};
-    std::vector<Kind> kinds;
-    for (const Variant& value : values) kinds.push_back(value.kind());
+    std::vector<Kind> kinds(values.size());
+    std::ranges::transform(values, kinds.begin(), &Variant::kind);
     CHECK(kinds == expected);
 }
 
