@@ -19,7 +19,8 @@ namespace {
 // A home folder of its own, for this process and for those that it starts.
 class OtherHome {
   public:
-    OtherHome() : before_(std::getenv("HOME") ? std::getenv("HOME") : "/") {
+    OtherHome() {
+        if (const char* home = std::getenv("HOME")) before_ = home;
         ::setenv("HOME", folder_.path().c_str(), 1);
         ::unsetenv("XDG_CONFIG_HOME");
     }
@@ -31,7 +32,7 @@ class OtherHome {
 
   private:
     TemporaryFolder folder_;
-    std::string before_;
+    std::string before_ = "/";
 };
 
 // What the user's own Calc shows in the cell D1 of the workbook of another program, where the stored result is 99:

@@ -7,6 +7,7 @@
 #include <array>
 #include <atomic>
 #include <cppu/unotype.hxx>
+#include <memory>
 #include <uno/environment.hxx>
 #include <uno/mapping.hxx>
 
@@ -92,7 +93,7 @@ class FunctionDispatcher final : public uno_Interface {
         *exception = nullptr;
     }
 
-    std::atomic<int> count_{0};
+    std::atomic<int> count_{1};
     uno_Interface* add_in_;
 };
 
@@ -102,9 +103,11 @@ uno::Reference<uno::XInterface> make_function_dispatcher(uno::XInterface* add_in
     const uno::Environment binary("uno");
     const uno::Mapping to_binary(uno::Environment::getCurrent(), binary);
     const uno::Mapping from_binary(binary, uno::Environment::getCurrent());
-    auto* dispatcher = new FunctionDispatcher(
-        static_cast<uno_Interface*>(to_binary.mapInterface(add_in, cppu::UnoType<uno::XInterface>::get())));
-    return {static_cast<uno::XInterface*>(from_binary.mapInterface(dispatcher, function_interface())), SAL_NO_ACQUIRE};
+    constexpr auto drop = [](uno_Interface* object) { object->release(object); };
+    const std::unique_ptr<FunctionDispatcher, decltype(drop)> dispatcher(new FunctionDispatcher(
+        static_cast<uno_Interface*>(to_binary.mapInterface(add_in, cppu::UnoType<uno::XInterface>::get()))));
+    return {static_cast<uno::XInterface*>(from_binary.mapInterface(dispatcher.get(), function_interface())),
+            SAL_NO_ACQUIRE};
 }
 
 }  // namespace qor::calc
