@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -182,7 +183,8 @@ struct Evaluation<Lambda, R (Lambda::*)(A...) const> {
             double result = 0;
             attempt([&] {
                 const double unrounded = formula().value();
-                result = places ? round_half_even(unrounded, *places) : unrounded;
+                const double rounded = places ? round_half_even(unrounded, *places) : unrounded;
+                if (std::isfinite(rounded)) result = rounded;  // an argument may be what no cell can show
             });
             return result + 0.0;  // a cell shows no negative zero
         } else {
