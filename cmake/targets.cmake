@@ -12,6 +12,9 @@ if(QOR_SANITIZE)
   target_compile_options(qor_options INTERFACE -fsanitize=address,undefined -fno-sanitize=vptr
     -fno-sanitize-recover=undefined -fno-omit-frame-pointer -Wno-maybe-uninitialized)
   target_link_options(qor_options INTERFACE -fsanitize=address,undefined)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so OUTPUT_VARIABLE sanitizer
+    OUTPUT_STRIP_TRAILING_WHITESPACE)
+  target_compile_definitions(qor_options INTERFACE QOR_SANITIZER="${sanitizer}")
 endif()
 
 # qor_library(name [DEPENDS libraries...]): a static library of the core or of a screen

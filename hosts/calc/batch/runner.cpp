@@ -5,7 +5,6 @@
 #include <com/sun/star/beans/NamedValue.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/task/XJob.hpp>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -69,11 +68,6 @@ int main(int argc, char** argv) {
     const fs::path report = fs::temp_directory_path() / ("qorplus-batch-report-" + std::to_string(::getpid()) + ".txt");
     int exit_code = failed_without_report;
     try {
-#ifdef QOR_SANITIZER
-        ::setenv("LD_PRELOAD", QOR_SANITIZER, 1);
-        // LibreOffice does not free at its end, and handles signals itself.
-        ::setenv("ASAN_OPTIONS", ("detect_leaks=0:handle_segv=0:log_path=" + report.string()).c_str(), 1);
-#endif
         const std::vector<fs::path> components{QOR_BATCH_COMPONENTS, QOR_EXTENSION_COMPONENTS};
         calc::PrivateOffice office(calc::office_program_folder(), components);
         give_up_when_late(report);

@@ -3,6 +3,7 @@
 
 #include "hosts/calc/functions/add_in.hpp"
 #include "hosts/calc/session/session_service.hpp"
+#include "hosts/calc/uno/sanitizer.hpp"
 
 // The constructors that the extension's list of components names.
 
@@ -22,9 +23,11 @@ XInterface* counted(const Reference<XInterface>& object) {
 }  // namespace
 
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_functions(XComponentContext* context, const Sequence<Any>&) {
+    qor::calc::keep_sanitizer_in_this_process();
     return counted(qor::calc::function_add_in(context));
 }
 
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_session(XComponentContext* context, const Sequence<Any>&) {
+    qor::calc::keep_sanitizer_in_this_process();
     return counted(qor::calc::make_session_service(context));
 }

@@ -4,13 +4,13 @@
 #include <com/sun/star/task/XJob.hpp>
 #include <cppuhelper/implbase2.hxx>
 #include <cppuhelper/supportsservice.hxx>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 #include <vector>
 
 #include "hosts/calc/uno/main_thread.hpp"
 #include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/uno/sanitizer.hpp"
 #include "hosts/calc/uno/sequence.hpp"
 #include "platform/text.hpp"
 
@@ -40,9 +40,7 @@ class BatchJob final : public cppu::WeakImplHelper2<css::task::XJob, css::lang::
         std::vector<const char*> pointers;
         for (const std::string& argument : passed) pointers.push_back(argument.c_str());
         std::ofstream out(report);
-        // A sanitizer is for this process. In gpg, which the office starts when it stores, it makes the office wait
-        // forever.
-        ::unsetenv("LD_PRELOAD");
+        keep_sanitizer_in_this_process();
         sal_Int32 exit_code = 0;
         run_on_main_thread(context_, [&] { exit_code = batch_(context_, pointers, out); });
         return css::uno::Any(exit_code);

@@ -14,6 +14,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string_view>
@@ -36,7 +37,14 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
     return result;
 }
 
-std::vector<std::string> environment_with(const std::vector<std::string>& additions) {
+std::vector<std::string> environment_with(std::vector<std::string> additions) {
+#ifdef QOR_SANITIZER
+    // LibreOffice itself is not sanitized, so the sanitizer has to be in the process before our libraries. LibreOffice
+    // does not free at its end, and handles signals itself.
+    additions.emplace_back("LD_PRELOAD=" QOR_SANITIZER);
+    additions.emplace_back("ASAN_OPTIONS=detect_leaks=0:handle_segv=0:log_path=" +
+                           (std::filesystem::temp_directory_path() / "qorplus-sanitizer").string());
+#endif
     const auto name_of = [](std::string_view entry) { return entry.substr(0, entry.find('=')); };
     std::vector<std::string> result = additions;
     for (char** entry = environ; *entry; ++entry) {
