@@ -58,6 +58,7 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
 bool run_with_ratios(std::span<const char* const> arguments, std::ostream& report) {
     std::vector<std::string> copies(arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(copies.size());
     for (std::string& copy : copies) pointers.push_back(copy.data());
     int count = static_cast<int>(pointers.size());
     benchmark::Initialize(&count, pointers.data());

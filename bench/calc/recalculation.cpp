@@ -18,7 +18,7 @@ namespace {
 constexpr std::int32_t rows = 100'000;
 
 Object book_with_numbers(const Object& application) {
-    const Object book = application.get(names::Workbooks).call(names::Add);
+    Object book = application.get(names::Workbooks).call(names::Add);
     Array numbers = Array::table(rows, 3);
     for (std::size_t row = 0; row < rows; ++row) {
         numbers.at(row, 0) = 100.0 + static_cast<double>(row % 97);

@@ -92,6 +92,7 @@ class CommentsObject final : public CalcObject<CommentsObject> {
         const Annotations all = annotations_of(sheet_);
         std::vector<Variant> result;
         const sal_Int32 count = all->getCount();
+        result.reserve(static_cast<std::size_t>(count));
         for (sal_Int32 i = 0; i < count; ++i) {
             result.emplace_back(make_comment(sheet_, Annotation(all->getByIndex(i))->getPosition()));
         }

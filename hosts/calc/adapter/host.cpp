@@ -26,7 +26,7 @@ std::vector<Document> Host::documents() const {
 }
 
 Document Host::active_document() {
-    const Document current(Ref{desktop_->getCurrentComponent()});
+    Document current(Ref{desktop_->getCurrentComponent()});
     if (current) return current;
     const std::vector<Document> open = documents();
     if (std::ranges::find(open, last_active_) == open.end()) {

@@ -129,7 +129,8 @@ class WindowsObject final : public CalcObject<WindowsObject> {
         for (const Document& document : host_->documents()) add({host_, document});
         if (const Document front = host_->active_document()) {
             const Controller controller{Ref<css::frame::XModel>(front)->getCurrentController()};
-            std::ranges::stable_partition(result, [&](const auto& window) { return window.second == controller; });
+            std::stable_partition(result.begin(), result.end(),
+                                  [&](const auto& window) { return window.second == controller; });
         }
         return result;
     }
