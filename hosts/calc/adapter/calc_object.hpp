@@ -3,14 +3,15 @@
 #include <com/sun/star/uno/XInterface.hpp>
 
 #include "automation/member_table.hpp"
+#include "hosts/calc/adapter/object_model.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/ref.hpp"
 #include "runtime/bind.hpp"
 
 namespace qor::calc {
 
-// An object of Excel's model answered from the office. A class has its rows in members(), its name in `name`, and says
-// in identity() which object of the office it stands for.
+// An object of Excel's model answered from the office. A class has its rows in members(), its name in `name_of_type`,
+// and says in identity() which object of the office it stands for.
 template <class Self>
 class CalcObject : public Dispatch {
   public:
@@ -37,9 +38,23 @@ class CalcObject : public Dispatch {
             return this == &other;
         }
     }
-    std::u16string_view type_name() const noexcept final { return Self::name_of_type; }
+    std::u16string_view type_name() const noexcept final {
+        static_cast<void>(is_described);
+        return Self::name_of_type;
+    }
 
   private:
+    static std::vector<MemberDescription> describe_members() {
+        std::vector<MemberDescription> result;
+        for (const auto& row : Self::members().rows()) {
+            result.push_back({row.name, row.accesses == accesses::readable_and_writable});
+        }
+        return result;
+    }
+    // A class enters the list of objects by being compiled: type_name() above is what instantiates this.
+    static inline const bool is_described =
+        (object_model().push_back({Self::name_of_type, &CalcObject::describe_members}), true);
+
     Self& self() { return static_cast<Self&>(*this); }
     const Self& self() const { return static_cast<const Self&>(*this); }
 };

@@ -1,0 +1,81 @@
+#include "hosts/calc/adapter/object_model.hpp"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "platform/text.hpp"
+
+namespace qor::calc::tests {
+namespace {
+
+// One line a member, such as "Range.Value: property".
+using Lines = std::set<std::string>;
+
+std::vector<std::string> cells_of(const std::string& row) {
+    std::vector<std::string> cells;
+    std::istringstream text(row.substr(1));
+    for (std::string cell; std::getline(text, cell, '|');) {
+        const auto start = cell.find_first_not_of(' ');
+        cells.push_back(start == std::string::npos ? "" : cell.substr(start, cell.find_last_not_of(' ') - start + 1));
+    }
+    return cells;
+}
+
+Lines documented_members() {
+    Lines lines;
+    std::ifstream page(QOR_OBJECT_MODEL);
+    REQUIRE(page);
+    std::string object;
+    std::string previous;
+    for (std::string line; std::getline(page, line);) {
+        if (line.starts_with("## ")) {
+            object = line.substr(3);
+            previous.clear();
+        }
+        if (!line.starts_with("| ") || line.starts_with("| member ")) continue;
+        const std::vector<std::string> cells = cells_of(line);
+        INFO(object << ": " << line);
+        REQUIRE(cells.size() == 4);
+        CHECK(previous < cells[0]);  // in the order of their names, and none twice
+        previous = cells[0];
+        const bool known_kind = cells[1] == "property" || cells[1] == "property, read-only" || cells[1] == "method";
+        CHECK(known_kind);
+        lines.insert(object + "." + cells[0] + (cells[1] == "property" ? ": writable" : ": not writable"));
+    }
+    return lines;
+}
+
+Lines answered_members() {
+    Lines lines;
+    for (const ObjectDescription& object : object_model()) {
+        for (const MemberDescription& member : object.members()) {
+            lines.insert(to_utf8(object.name) + "." + to_utf8(member.name) +
+                         (member.writable ? ": writable" : ": not writable"));
+        }
+    }
+    return lines;
+}
+
+Lines without(const Lines& lines, const Lines& others) {
+    Lines result;
+    std::ranges::set_difference(lines, others, std::inserter(result, result.end()));
+    return result;
+}
+
+}  // namespace
+
+TEST_CASE("the page on the object model lists the members that the adapter answers, and no others") {
+    const Lines documented = documented_members();
+    const Lines answered = answered_members();
+    CHECK(answered.size() > 100);
+    for (const std::string& line : without(answered, documented)) FAIL_CHECK("missing on the page: " << line);
+    for (const std::string& line : without(documented, answered)) FAIL_CHECK("only on the page: " << line);
+}
+
+}  // namespace qor::calc::tests
