@@ -5,6 +5,7 @@
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <cppuhelper/bootstrap.hxx>
+#include <csignal>
 #include <cstdlib>
 #include <osl/file.hxx>
 #include <rtl/bootstrap.hxx>
@@ -97,6 +98,8 @@ PrivateOffice::PrivateOffice(const std::filesystem::path& program,
     if (profile == Profile::of_user && is_listening(profile_socket(user_profile_url(program)))) {
         throw OfficeError("LibreOffice is running; close LibreOffice first");
     }
+    // What is sent to an office that has ended must fail by itself, not end this process.
+    std::signal(SIGPIPE, SIG_IGN);
     folder_ = make_private_folder();
     process_.emplace(start_options(program, folder_, component_lists, profile, files));
     client_context(program);
