@@ -1,25 +1,12 @@
 #pragma once
 
-#include "ui/control.hpp"
+#include "ui/text_entry.hpp"
 
 namespace qor {
 
-class TextBox final : public Control {
+class TextBox final : public TextEntry {
   public:
-    TextBox(Form& form, std::u16string name, std::u16string text = {})
-        : Control(form, std::move(name)), text_(std::move(text)) {}
-
-    const std::u16string& text() const noexcept { return text_; }
-
-    // Raises on_change when the text changes, whether the user or the program changed it.
-    void set_text(std::u16string text) {
-        if (assign(text_, std::move(text))) on_change();
-    }
-
-    Event<> on_change;
-
-  private:
-    std::u16string text_;
+    using TextEntry::TextEntry;
 };
 
 }  // namespace qor
