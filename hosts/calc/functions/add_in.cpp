@@ -74,9 +74,9 @@ class AddIn final
         return getProgrammaticCategoryName(name);
     }
 
-    // The name in files of other programs.
+    // The name in files of other programs; one that Calc has already would be taken for Calc's when the file is loaded.
     uno::Sequence<sheet::LocalizedName> SAL_CALL getCompatibilityNames(const OUString& name) override {
-        const sheet::LocalizedName english(lang::Locale("en", "US", ""), name);
+        const sheet::LocalizedName english(lang::Locale("en", "US", ""), getDisplayFunctionName(name));
         return {&english, 1};
     }
 
