@@ -37,6 +37,22 @@ std::vector<std::u16string_view> Function::parameter_names() const {
     return names;
 }
 
+Variant Function::starting_value() const {
+    switch (result_kind()) {
+        case ValueKind::number:
+            return 0.0;
+        case ValueKind::whole_number:
+            return 0;
+        case ValueKind::boolean:
+            return false;
+        case ValueKind::text:
+            return u"";
+        case ValueKind::variant:
+            break;
+    }
+    return Empty{};
+}
+
 Variant Function::invoke(std::span<Variant> arguments) const {
     if (arguments.size() > parameters.size()) throw Error(ErrorNumber::wrong_argument_count);
     return formula.evaluate(*this, arguments);

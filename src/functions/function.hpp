@@ -90,6 +90,8 @@ struct Function : FunctionDeclaration {
 
     ValueKind result_kind() const noexcept { return formula.result_kind(); }
     std::vector<std::u16string_view> parameter_names() const;
+    // What the result is before the formula has stored one: 0, the empty text, false or Empty.
+    Variant starting_value() const;
 
     // Computes the function for positional arguments, where trailing ones may be absent and others Missing. Arguments
     // are converted first, which raises as a conversion does, 449 for a required one that is left out and 450 for too

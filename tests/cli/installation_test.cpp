@@ -6,10 +6,11 @@
 #include <thread>
 
 #include "hosts/calc/office/office_socket.hpp"
+#include "hosts/calc/office/private_office.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
-#include "tests/cli/calc_fixture.hpp"
+#include "tests/calc_document/calc_document.hpp"
 #include "tests/cli/program_run.hpp"
 #include "tests/cli/temporary_folder.hpp"
 
@@ -39,7 +40,7 @@ class OtherHome {
 // 0.2 if the add-in is there, repairs the formula and computes it.
 std::string shown_by_calc() {
     const calc::PrivateOffice users(calc::office_program_folder(), {}, calc::Profile::of_user);
-    return CalcDocument(QOR_FOREIGN_WORKBOOK, users).shown("D1");
+    return calc::tests::CalcDocument(users.context(), QOR_FOREIGN_WORKBOOK).shown("D1");
 }
 
 }  // namespace

@@ -130,6 +130,14 @@ TEST_CASE("every kind of parameter and result has its way through the frame") {
 
     const Function whole{{.name = u"WHOLE", .formula = [] { return std::int32_t{7}; }}, Category::date_and_time};
     CHECK(whole.invoke(std::vector<Variant>{}).is(Variant::Kind::long_integer));
+
+    CHECK(number(quotient().starting_value()) == 0);
+    CHECK(whole.starting_value().is(Variant::Kind::long_integer));
+    CHECK(truth.starting_value().is(Variant::Kind::boolean));
+    CHECK_FALSE(to_boolean(truth.starting_value()));
+    CHECK(text.starting_value().is(Variant::Kind::text));
+    CHECK(to_text(text.starting_value()).empty());
+    CHECK(any.starting_value().is_empty());
 }
 
 TEST_CASE("a parameter by reference goes back to the caller") {

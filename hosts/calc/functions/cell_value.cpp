@@ -2,7 +2,6 @@
 
 #include <uno/data.h>
 
-#include <bit>
 #include <com/sun/star/uno/Any.hxx>
 #include <com/sun/star/uno/Sequence.hxx>
 #include <cppu/unotype.hxx>
@@ -15,9 +14,6 @@ namespace {
 namespace uno = com::sun::star::uno;
 using Rectangle = uno::Sequence<uno::Sequence<uno::Any>>;
 
-// Calc takes a number that is none for an error, whose code stands in its low bits. 519 is #VALUE!.
-constexpr double value_error = std::bit_cast<double>(0x7FF8'0000'0000'0000U | 519U);
-
 void construct(uno_Any& result, double number) noexcept {
     uno_type_any_construct(&result, &number, cppu::UnoType<double>::get().getTypeLibType(), nullptr);
 }
@@ -27,25 +23,32 @@ void construct(uno_Any& result, std::u16string_view text) noexcept {
     uno_type_any_construct(&result, &value, cppu::UnoType<rtl::OUString>::get().getTypeLibType(), nullptr);
 }
 
-}  // namespace
-
-Variant argument_from_cell(const uno_Any& argument) {
-    switch (argument.pType->eTypeClass) {
-        case typelib_TypeClass_DOUBLE:
-            return *static_cast<const double*>(argument.pData);
-        case typelib_TypeClass_STRING:
-            return view_of(*static_cast<const rtl::OUString*>(argument.pData));
-        case typelib_TypeClass_VOID:
-            return Missing{};
-        default:
-            break;
-    }
+Variant from_rectangle(const uno_Any& argument, ValueKind wanted) {
     // A binary value and the language's own are laid out alike as long as no interface is in it.
     Rectangle cells;
     if (!(static_cast<const uno::Any&>(argument) >>= cells) || cells.getLength() != 1 || cells[0].getLength() != 1) {
         throw Error(ErrorNumber::type_mismatch);
     }
-    return argument_from_cell(cells[0][0]);
+    Variant value = argument_from_cell(cells[0][0], wanted);
+    const auto* text = value.get_if<std::u16string>();
+    return text && text->empty() ? Variant() : value;
+}
+
+}  // namespace
+
+Variant argument_from_cell(const uno_Any& argument, ValueKind wanted) {
+    switch (argument.pType->eTypeClass) {
+        case typelib_TypeClass_DOUBLE: {
+            const double number = *static_cast<const double*>(argument.pData);
+            return number == 0 && wanted == ValueKind::text ? Variant() : number;
+        }
+        case typelib_TypeClass_STRING:
+            return view_of(*static_cast<const rtl::OUString*>(argument.pData));
+        case typelib_TypeClass_VOID:
+            return Missing{};
+        default:
+            return from_rectangle(argument, wanted);
+    }
 }
 
 void result_to_cell(const Variant& value, uno_Any& result) noexcept {
@@ -58,12 +61,7 @@ void result_to_cell(const Variant& value, uno_Any& result) noexcept {
     if (const auto* money = value.get_if<Currency>())
         return construct(result, static_cast<double>(money->ten_thousandths) / 10'000);
     if (const auto* number = value.get_if<float>()) return construct(result, static_cast<double>(*number));
-    if (value.is_empty()) return construct(result, 0.0);
-    error_to_cell(result);
-}
-
-void error_to_cell(uno_Any& result) noexcept {
-    construct(result, value_error);
+    construct(result, 0.0);
 }
 
 }  // namespace qor::calc

@@ -24,21 +24,18 @@ constexpr std::size_t most_parameters = 16;
 // The methods that every interface starts with.
 enum BasicMethod { method_query, method_acquire, method_release };
 
-// Never throws: the caller is Calc, and a cell has no better place for a failure than its value.
-void compute(const Function& function, const typelib_InterfaceMethodTypeDescription& method, void** given,
-             uno_Any& result) noexcept {
+// Never throws. What cannot be computed leaves in the cell what the function's result starts with.
+void compute(const Function& function, void** given, uno_Any& result) noexcept {
     try {
         std::array<Variant, most_parameters> arguments;
-        const auto count = static_cast<std::size_t>(method.nParams);
+        const std::size_t count = function.parameters.size();
         for (std::size_t place = 0; place < count; ++place) {
-            if (method.pParams[place].pTypeRef->eTypeClass == typelib_TypeClass_DOUBLE)
-                arguments[place] = *static_cast<const double*>(given[place]);
-            else
-                arguments[place] = argument_from_cell(*static_cast<const uno_Any*>(given[place]));
+            arguments[place] =
+                argument_from_cell(*static_cast<const uno_Any*>(given[place]), function.parameters[place].kind);
         }
         result_to_cell(function.invoke(std::span(arguments).first(count)), result);
     } catch (...) {
-        error_to_cell(result);
+        result_to_cell(function.starting_value(), result);
     }
 }
 
@@ -61,8 +58,7 @@ class FunctionDispatcher final : public uno_Interface {
         const int position = reinterpret_cast<const typelib_InterfaceMemberTypeDescription*>(member)->nPosition;
         if (position >= first_function_position) {
             *exception = nullptr;
-            compute(worksheet_functions()[static_cast<std::size_t>(position - first_function_position)],
-                    *reinterpret_cast<const typelib_InterfaceMethodTypeDescription*>(member), arguments,
+            compute(worksheet_functions()[static_cast<std::size_t>(position - first_function_position)], arguments,
                     *static_cast<uno_Any*>(result));
             return;
         }

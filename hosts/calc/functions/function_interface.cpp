@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "functions/registry.hpp"
-#include "hosts/calc/functions/parameter_type.hpp"
 #include "hosts/calc/uno/text.hpp"
 
 namespace qor::calc {
@@ -21,18 +20,16 @@ void register_and_keep(Description* description) {
     // The reference is not given back: the type system finds a description only as long as somebody holds it.
 }
 
+// Every argument comes as it is and may be left out: a number that Calc made of it would be an error value where it
+// cannot be made.
 void register_method(const Function& function, const OUString& method_name, sal_Int32 position) {
     const OUString any_name("any");
-    const OUString double_name("double");
     const OUString runtime_exception("com.sun.star.uno.RuntimeException");
     std::vector<OUString> names;
     for (const auto& parameter : function.parameters) names.push_back(to_uno(parameter.name));
     std::vector<typelib_Parameter_Init> parameters;
-    for (std::size_t place = 0; place < names.size(); ++place) {
-        const bool number = is_plain_number(function.parameters[place]);
-        parameters.push_back({number ? typelib_TypeClass_DOUBLE : typelib_TypeClass_ANY,
-                              number ? double_name.pData : any_name.pData, names[place].pData, true, false});
-    }
+    for (const OUString& name : names)
+        parameters.push_back({typelib_TypeClass_ANY, any_name.pData, name.pData, true, false});
     rtl_uString* exceptions[] = {runtime_exception.pData};
     typelib_InterfaceMethodTypeDescription* method = nullptr;
     typelib_typedescription_newInterfaceMethod(&method, position, false, method_name.pData, typelib_TypeClass_ANY,

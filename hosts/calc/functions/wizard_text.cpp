@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor::calc {
@@ -22,6 +23,13 @@ std::u16string_view kind_text(ValueKind kind) {
             return u"TRUE or FALSE";
     }
     return u"A value";
+}
+
+// Calc takes all arguments for optional, so the text says what becomes of one that is left out.
+std::u16string need_text(const Parameter& parameter) {
+    if (!parameter.is_optional()) return u"required";
+    if (parameter.default_value->is_missing()) return u"may be left out";
+    return to_upper(to_text(*parameter.default_value)) + u" if it is left out";
 }
 
 }  // namespace
@@ -49,10 +57,7 @@ std::u16string display_name(const Function& function) {
 }
 
 std::u16string parameter_description(const Parameter& parameter) {
-    std::u16string text(kind_text(parameter.kind));
-    if (parameter.is_optional() && !parameter.default_value->is_missing())
-        text += u"; " + to_text(*parameter.default_value) + u" if it is left out";
-    return text + u".";
+    return std::u16string(kind_text(parameter.kind)) + u"; " + need_text(parameter) + u".";
 }
 
 }  // namespace qor::calc
