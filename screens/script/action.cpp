@@ -3,14 +3,23 @@
 #include <fmt/format.h>
 
 #include <array>
+#include <cstdlib>
+#include <set>
 #include <typeinfo>
 
 #include "platform/text.hpp"
+#include "runtime/conversion.hpp"
 #include "screens/script/script_error.hpp"
 #include "ui/button.hpp"
 #include "ui/check_box.hpp"
+#include "ui/combo_box.hpp"
+#include "ui/date_picker.hpp"
+#include "ui/list_box.hpp"
 #include "ui/options.hpp"
-#include "ui/text_box.hpp"
+#include "ui/pick_box.hpp"
+#include "ui/spin_box.hpp"
+#include "ui/swatch.hpp"
+#include "ui/tabs.hpp"
 #include "ui/tree_view.hpp"
 
 namespace qor {
@@ -77,9 +86,15 @@ void click(TreeView& tree, const Pointer& place) {
 }
 
 void press(const Step& step) {
-    const auto* button = step.as<Button>();
-    if (!button) step.refuse("this is no button");
-    button->press();
+    if (const auto* button = step.as<Button>()) {
+        button->press();
+    } else if (const auto* box = step.as<PickBox>()) {
+        box->pick();
+    } else if (const auto* swatch = step.as<Swatch>()) {
+        swatch->press();
+    } else {
+        step.refuse("this is no button");
+    }
 }
 
 std::optional<bool> wanted_state(const Step& step) {
@@ -105,22 +120,88 @@ void check(const Step& step) {
     click(*tree, *tree->picture_point(node));
 }
 
+// A place among `count`, from 0.
+int place_in(const Step& step, const json& place, std::size_t count) {
+    if (!place.is_number_integer() || place < 0 || place >= count) {
+        step.refuse(count == 0 ? "there is nothing to choose from"
+                               : fmt::format("a place must be a whole number from 0 to {}", count - 1));
+    }
+    return place.get<int>();
+}
+
+// As a user does it: what has the focus before leaves it, and it is left at the end.
+void type(const Step& step, TextEntry& entry) {
+    entry.on_enter();
+    entry.set_text(from_utf8(step.text("to")));
+    if (step.form.visible()) entry.on_leave();
+}
+
+// The selection becomes the rows in "to"; the last of them is the one that is clicked.
+void select_rows(const Step& step, ListBox& list, const json& to) {
+    const json rows = to.is_array() ? to : json::array({to});
+    std::set<std::size_t> wanted;
+    for (const json& row : rows) wanted.insert(static_cast<std::size_t>(place_in(step, row, list.count())));
+    if (list.selecting() == ListBox::Selecting::one_row && wanted.size() > 1) step.refuse("one row can be selected");
+    for (std::size_t row = 0; row < list.count(); ++row) list.set_selected(row, wanted.contains(row));
+    if (!wanted.empty()) list.click_row(*wanted.rbegin());
+}
+
+Date day_of(const Step& step) {
+    Date day{};
+    if (attempt([&] { day = to_date(Variant(from_utf8(step.text("to")))); }) != 0) step.refuse("this is no date");
+    return day;
+}
+
 void set(const Step& step) {
     const auto to = step.action.find("to");
     if (to == step.action.end()) step.refuse("\"to\" must say the value");
-    if (auto* box = step.as<TextBox>()) {
-        box->set_text(from_utf8(step.text("to")));
+    if (auto* entry = step.as<TextEntry>()) {
+        if (entry->locked()) step.refuse("it takes no typing");
+        type(step, *entry);
     } else if (step.as<CheckBox>()) {
         check(step);
     } else if (auto* options = step.as<Options>()) {
-        const auto count = static_cast<int>(options->captions().size());
-        if (!to->is_number_integer() || *to < 0 || *to >= count) {
-            step.refuse(fmt::format("\"to\" must be a whole number from 0 to {}", count - 1));
-        }
-        options->choose(to->get<int>());
+        options->choose(place_in(step, *to, options->captions().size()));
+    } else if (auto* combo = step.as<ComboBox>()) {
+        combo->choose(place_in(step, *to, combo->entries().size()));
+    } else if (auto* tabs = step.as<Tabs>()) {
+        tabs->turn_to(place_in(step, *to, tabs->captions().size()));
+    } else if (auto* list = step.as<ListBox>()) {
+        select_rows(step, *list, *to);
+    } else if (auto* picker = step.as<DatePicker>()) {
+        picker->set_day(day_of(step));
     } else {
         step.refuse("this has no value that can be set");
     }
+}
+
+ListBox& list_of(const Step& step) {
+    auto* list = step.as<ListBox>();
+    if (!list) step.refuse("this is no list");
+    return *list;
+}
+
+void double_click(const Step& step) {
+    ListBox& list = list_of(step);
+    const auto row = step.action.find("row");
+    if (row == step.action.end()) step.refuse("\"row\" must say the place");
+    list.double_click_row(static_cast<std::size_t>(place_in(step, *row, list.count())));
+}
+
+void sort(const Step& step) {
+    ListBox& list = list_of(step);
+    const auto column = step.action.find("column");
+    if (column == step.action.end()) step.refuse("\"column\" must say the place");
+    list.click_caption(static_cast<std::size_t>(place_in(step, *column, list.columns().size())));
+}
+
+void spin(const Step& step) {
+    auto* box = step.as<SpinBox>();
+    if (!box) step.refuse("this has no arrows");
+    const auto by = step.action.find("by");
+    if (by == step.action.end() || !by->is_number_integer()) step.refuse("\"by\" must be a whole number");
+    const int steps = by->get<int>();
+    for (int i = 0; i < std::abs(steps); ++i) box->step(steps < 0 ? -1 : 1);
 }
 
 void move(const Step& step) {
@@ -144,7 +225,8 @@ struct Verb {
     const char* name;
     void (*perform)(const Step&);
 };
-constexpr std::array verbs{Verb{"press", press}, Verb{"check", check}, Verb{"set", set}, Verb{"move", move}};
+constexpr std::array verbs{Verb{"press", press},         Verb{"check", check}, Verb{"set", set},  Verb{"move", move},
+                           Verb{"double", double_click}, Verb{"sort", sort},   Verb{"spin", spin}};
 
 Control& find_control(const Form& form, const std::string& name) {
     std::vector<std::string> found;
@@ -168,8 +250,9 @@ void perform(Form& form, const json& action) {
         verb.perform(step);
         return;
     }
-    throw ScriptError(fmt::format("{}: {}: an action presses, checks, sets or moves a control named as a text",
-                                  to_utf8(form.name()), action.dump()));
+    throw ScriptError(
+        fmt::format("{}: {}: an action presses, checks, sets, moves, doubles, sorts or spins a control named as a text",
+                    to_utf8(form.name()), action.dump()));
 }
 
 }  // namespace qor

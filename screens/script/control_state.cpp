@@ -4,11 +4,20 @@
 #include <unordered_map>
 
 #include "platform/text.hpp"
+#include "runtime/format.hpp"
 #include "ui/button.hpp"
 #include "ui/check_box.hpp"
+#include "ui/combo_box.hpp"
+#include "ui/date_picker.hpp"
+#include "ui/frame.hpp"
 #include "ui/label.hpp"
+#include "ui/list_box.hpp"
 #include "ui/options.hpp"
+#include "ui/pick_box.hpp"
 #include "ui/progress_panel.hpp"
+#include "ui/spin_box.hpp"
+#include "ui/swatch.hpp"
+#include "ui/tabs.hpp"
 #include "ui/text_box.hpp"
 #include "ui/tree_view.hpp"
 
@@ -32,8 +41,35 @@ json value_of(const Options& options) {
 json value_of(const ProgressPanel& panel) {
     return panel.flood_percent();
 }
-json value_of(const TextBox& box) {
-    return to_utf8(box.text());
+json value_of(const TextEntry& entry) {
+    return to_utf8(entry.text());
+}
+json value_of(const ComboBox& combo) {
+    return combo.chosen();
+}
+json value_of(const DatePicker& picker) {
+    return to_utf8(format(picker.day(), u"yyyy-mm-dd"));
+}
+json value_of(const Frame& frame) {
+    return to_utf8(frame.caption());
+}
+json value_of(const Swatch& swatch) {
+    return {{"backColor", swatch.back_color()}, {"foreColor", swatch.fore_color()}};
+}
+json value_of(const Tabs& tabs) {
+    return tabs.current();
+}
+
+// The rows with all their columns, and the places of the selected ones.
+json value_of(const ListBox& list) {
+    json rows = json::array();
+    for (std::size_t row = 0; row < list.count(); ++row) {
+        json& texts = rows.emplace_back(json::array());
+        for (std::size_t column = 0; column < list.columns().size(); ++column) {
+            texts.push_back(to_utf8(list.text(row, column)));
+        }
+    }
+    return {{"rows", std::move(rows)}, {"selected", list.selection()}};
 }
 
 // Every node in index order; a mark is told only where it is set.
@@ -64,8 +100,9 @@ std::pair<const std::type_index, ValueReader> reader() {
 
 json value_of(const Control& control) {
     static const std::unordered_map<std::type_index, ValueReader> readers{
-        reader<Button>(),        reader<CheckBox>(), reader<Label>(),    reader<Options>(),
-        reader<ProgressPanel>(), reader<TextBox>(),  reader<TreeView>(),
+        reader<Button>(),  reader<CheckBox>(), reader<ComboBox>(), reader<DatePicker>(), reader<Frame>(),
+        reader<Label>(),   reader<ListBox>(),  reader<Options>(),  reader<PickBox>(),    reader<ProgressPanel>(),
+        reader<SpinBox>(), reader<Swatch>(),   reader<Tabs>(),     reader<TextBox>(),    reader<TreeView>(),
     };
     return readers.at(typeid(control))(control);
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <string_view>
 
 #include "platform/text.hpp"
@@ -49,10 +50,18 @@ std::vector<AnswerText> offered_by(MessageButtons buttons) {
 
 constexpr std::array icon_names{"none", "critical", "question", "exclamation", "information"};
 
-json list_of(const json& call, const char* key, bool (json::*is_element)() const noexcept, const char* shape) {
+bool is_text_or_null(const json& element) {
+    return element.is_string() || element.is_null();
+}
+bool is_number_or_null(const json& element) {
+    return element.is_number_integer() || element.is_null();
+}
+
+template <class Fits>
+json list_of(const json& call, const char* key, const Fits& fits, const char* shape) {
     json list = call.value(key, json::array());
-    const auto fits = [&](const json& element) { return (element.*is_element)(); };
-    if (!list.is_array() || !std::ranges::all_of(list, fits)) {
+    const auto is_fit = [&](const json& element) { return std::invoke(fits, element); };
+    if (!list.is_array() || !std::ranges::all_of(list, is_fit)) {
         throw ScriptError(fmt::format("\"{}\" must be {}, but it is {}", key, shape, list.dump()));
     }
     return list;
@@ -79,9 +88,10 @@ void cancel_form(Form& form) {
 void ScriptScreen::begin_call(const json& call) {
     forms_ = list_of(call, "forms", &json::is_array, "a list of lists of actions");
     answers_ = list_of(call, "answers", &json::is_string, "a list of texts");
-    for (const char* key : {"ranges", "files"}) {
-        unasked_[key] = list_of(call, key, &json::is_string, "a list of texts").size();
-    }
+    picks_ = {{"ranges", list_of(call, "ranges", is_text_or_null, "a list of texts")},
+              {"files", list_of(call, "files", is_text_or_null, "a list of texts")},
+              {"folders", list_of(call, "folders", is_text_or_null, "a list of texts")},
+              {"colors", list_of(call, "colors", is_number_or_null, "a list of whole numbers")}};
     shown_forms_ = json::array();
     messages_ = json::array();
     progress_ = nullptr;
@@ -91,9 +101,9 @@ json ScriptScreen::end_call(bool command_failed) {
     if (!command_failed) {
         require_used("form", shown_forms_.size(), "actions", forms_.size());
         require_used("message", messages_.size(), "answers", answers_.size());
-        for (const auto& [key, count] : unasked_.items()) {
-            if (count > 0)
-                throw ScriptError(fmt::format("the call asked for no {}, the script has {}", key, count.dump()));
+        for (const auto& [key, left] : picks_.items()) {
+            if (!left.empty())
+                throw ScriptError(fmt::format("the call asked for no more {}, the script has {}", key, left.size()));
         }
     }
     return {{"forms", std::move(shown_forms_)}, {"messages", std::move(messages_)}, {"progress", std::move(progress_)}};
@@ -139,6 +149,34 @@ MessageAnswer ScriptScreen::message_box(const MessageBox& message) {
                          {"buttons", std::move(texts)},
                          {"answer", answer.text}});
     return answer.answer;
+}
+
+std::optional<std::u16string> ScriptScreen::pick_file(Form*, FileDialog&) {
+    return next_text("files");
+}
+
+std::optional<std::u16string> ScriptScreen::pick_folder(Form*, const std::u16string&) {
+    return next_text("folders");
+}
+
+std::optional<std::int32_t> ScriptScreen::pick_color(Form*) {
+    const json color = next_pick("colors");
+    if (color.is_null()) return {};
+    return color.get<std::int32_t>();
+}
+
+json ScriptScreen::next_pick(const std::string& key) {
+    json& left = picks_[key];
+    if (left.empty()) return nullptr;
+    json next = left.front();
+    left.erase(0);
+    return next;
+}
+
+std::optional<std::u16string> ScriptScreen::next_text(const std::string& key) {
+    const json text = next_pick(key);
+    if (text.is_null()) return {};
+    return from_utf8(text.get<std::string>());
 }
 
 }  // namespace qor

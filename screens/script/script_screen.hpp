@@ -11,9 +11,10 @@ namespace qor {
 class ScriptScreen final : public Screen {
   public:
     // What the next command is to meet: "forms", a list of actions for each form in the order in which they open, and
-    // "answers", the texts of the buttons to press in message boxes; "ranges" and "files", what is picked where a form
-    // lets the user pick. All may be absent. A form without actions, or one that is still open after its last action,
-    // is cancelled; a message without an answer takes its default. Raises ScriptError where one has another shape.
+    // "answers", the texts of the buttons to press in message boxes; "ranges", "files", "folders" and "colors", what is
+    // picked in dialogs of the host and the system. All may be absent. A form without actions, or one that is still
+    // open after its last action, is cancelled, and so is a dialog for which nothing, or null, is left; a message
+    // without an answer takes its default. Raises ScriptError where one has another shape.
     void begin_call(const nlohmann::json& call);
 
     // What was shown since begin_call: {"forms": [...], "messages": [...], "progress": [done, total]}, the progress as
@@ -27,6 +28,11 @@ class ScriptScreen final : public Screen {
     void unload(Form&) noexcept override {}
     void progress(Form& form, std::int32_t done, std::int32_t total) override;
     MessageAnswer message_box(const MessageBox& message) override;
+    std::optional<std::u16string> pick_file(Form* owner, FileDialog& dialog) override;
+    std::optional<std::u16string> pick_folder(Form* owner, const std::u16string& title) override;
+    std::optional<std::int32_t> pick_color(Form* owner) override;
+    // The next entry of "ranges": what the user points at in the host's own dialog.
+    std::optional<std::u16string> pick_range() { return next_text("ranges"); }
     double twips_per_pixel() const override { return 15; }
 
   private:
@@ -35,7 +41,11 @@ class ScriptScreen final : public Screen {
     nlohmann::json shown_forms_ = nlohmann::json::array();
     nlohmann::json messages_ = nlohmann::json::array();
     nlohmann::json progress_;
-    nlohmann::json unasked_ = nlohmann::json::object();  // how many ranges and files were not asked for
+    // The next of what is picked, by the script's key; null when nothing is left.
+    nlohmann::json next_pick(const std::string& key);
+    std::optional<std::u16string> next_text(const std::string& key);
+
+    nlohmann::json picks_ = nlohmann::json::object();  // by key, a list of those not picked yet
 };
 
 }  // namespace qor

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
+#include "ui/file_dialog.hpp"
 #include "ui/message_box.hpp"
 
 namespace qor {
@@ -25,6 +27,11 @@ class Screen {
     virtual void progress(Form& form, std::int32_t done, std::int32_t total) = 0;
 
     virtual MessageAnswer message_box(const MessageBox& message) = 0;
+    // The user picks a path, a folder's path or a colour (0xBBGGRR) in a dialog of the system, over `owner`'s window.
+    // Absent when the user cancels.
+    virtual std::optional<std::u16string> pick_file(Form* owner, FileDialog& dialog) = 0;
+    virtual std::optional<std::u16string> pick_folder(Form* owner, const std::u16string& title) = 0;
+    virtual std::optional<std::int32_t> pick_color(Form* owner) = 0;
 
     // Twentieths of a point in the width of one pixel: 15 at 96 dots per inch.
     virtual double twips_per_pixel() const = 0;

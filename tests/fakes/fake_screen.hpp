@@ -14,6 +14,10 @@ class FakeScreen final : public Screen {
     std::vector<std::u16string> log;  // such as u"modal frmWKSum"
     std::function<void(Form&)> while_modal;
     double twips = 15;
+    // What the user picks; nothing: cancels.
+    std::optional<std::u16string> file;
+    std::optional<std::u16string> folder;
+    std::optional<std::int32_t> color;
 
     void show_modal(Form& form) override {
         log.push_back(u"modal " + form.name());
@@ -28,6 +32,18 @@ class FakeScreen final : public Screen {
     MessageAnswer message_box(const MessageBox& message) override {
         log.push_back(u"message " + message.text);
         return MessageAnswer::ok;
+    }
+    std::optional<std::u16string> pick_file(Form*, FileDialog& dialog) override {
+        log.push_back(u"file " + dialog.title);
+        return file;
+    }
+    std::optional<std::u16string> pick_folder(Form*, const std::u16string& title) override {
+        log.push_back(u"folder " + title);
+        return folder;
+    }
+    std::optional<std::int32_t> pick_color(Form*) override {
+        log.emplace_back(u"color");
+        return color;
     }
     double twips_per_pixel() const override { return twips; }
 };

@@ -167,7 +167,8 @@ TEST_CASE_FIXTURE(Script, "a row is moved onto another or onto itself by draggin
 }
 
 TEST_CASE_FIXTURE(Script, "an action that does not fit says which, and what there is") {
-    const std::string shapeless = "an action presses, checks, sets or moves a control named as a text";
+    const std::string shapeless =
+        "an action presses, checks, sets, moves, doubles, sorts or spins a control named as a text";
     struct Refusal {
         std::string action;
         std::string control;
@@ -184,8 +185,8 @@ TEST_CASE_FIXTURE(Script, "an action that does not fit says which, and what ther
         {R"({"check":"chkDeep","to":1})", "chkDeep: ", R"("to" must be true or false)"},
         {R"({"set":"txtName"})", "txtName: ", R"("to" must say the value)"},
         {R"({"set":"txtName","to":5})", "txtName: ", R"("to" must be given as a text)"},
-        {R"({"set":"optOrder","to":2})", "optOrder: ", R"("to" must be a whole number from 0 to 1)"},
-        {R"({"set":"optOrder","to":"1"})", "optOrder: ", R"("to" must be a whole number from 0 to 1)"},
+        {R"({"set":"optOrder","to":2})", "optOrder: ", R"(a place must be a whole number from 0 to 1)"},
+        {R"({"set":"optOrder","to":"1"})", "optOrder: ", R"(a place must be a whole number from 0 to 1)"},
         {R"({"set":"treRows","to":2})", "treRows: ", "this has no value that can be set"},
         {R"({"move":"txtName","onto":"b","row":"a"})", "txtName: ", "there are no rows here to move"},
         {R"-({"click":"cmdButton(0)"})-", "", shapeless},
@@ -313,9 +314,9 @@ TEST_CASE_FIXTURE(Script, "an answer that the message does not offer ends the ru
 
 TEST_CASE_FIXTURE(Script, "ranges and files that nobody asked for end the run") {
     screen.begin_call(R"({"ranges": ["B2:B9"]})"_json);
-    CHECK_THROWS_WITH_AS(screen.end_call(), "the call asked for no ranges, the script has 1", ScriptError);
+    CHECK_THROWS_WITH_AS(screen.end_call(), "the call asked for no more ranges, the script has 1", ScriptError);
     screen.begin_call(R"({"files": ["out.xls", "in.xls"]})"_json);
-    CHECK_THROWS_WITH_AS(screen.end_call(), "the call asked for no files, the script has 2", ScriptError);
+    CHECK_THROWS_WITH_AS(screen.end_call(), "the call asked for no more files, the script has 2", ScriptError);
     screen.begin_call(R"({"files": ["out.xls"]})"_json);
     CHECK_NOTHROW(screen.end_call(true));
     CHECK_THROWS_AS(screen.begin_call(R"({"ranges": "B2"})"_json), ScriptError);
