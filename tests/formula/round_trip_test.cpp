@@ -1,12 +1,13 @@
 #include <doctest/doctest.h>
 #include <rapidcheck.h>
 
+#include <array>
 #include <chrono>
 #include <random>
 
-#include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "platform/text.hpp"
+#include "tests/support/formula_grammar.hpp"
 
 namespace {
 
@@ -21,63 +22,15 @@ const FormulaTranslator& translator() {
     return built;
 }
 
-std::u16string decimal(int number) {
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
-// A formula of Excel in the spelling that reading it back gives.
-std::u16string random_formula(int depth) {
-    const auto below = [](int limit) { return *rc::gen::inRange(0, limit); };
-    const auto cell = [&] {
-        const std::u16string letters = qor::calc::column_letters(below(200));
-        return std::u16string(below(2) ? u"$" : u"") + letters + (below(2) ? u"$" : u"") + decimal(below(5000) + 1);
-    };
-    const auto area = [&] { return cell() + u":" + cell(); };
-    static const std::u16string sheets[] = {u"Sheet2!",        u"'my sheet'!", u"'it''s, so; 1.5'!", u"'A1'!",
-                                            u"Sheet1:Sheet3!", u"'c d'!",      u"'/p q/[f.ods]S'!",  u"Übersicht!"};
-    const auto part = [&] { return random_formula(depth - 1); };
-    if (depth == 0) {
-        switch (below(7)) {
-            case 0:
-                return cell();
-            case 1:
-                return area();
-            case 2: {
-                const int sheet = below(8);
-                return sheets[sheet] + (sheet == 4 ? area() : cell());
-            }
-            case 3:
-                return decimal(below(1000)) + (below(2) ? u".25" : u"");
-            case 4:
-                return below(2) ? u"\"a,b;\"\"c\"\"!\"" : u"\"'Sheet1'!A1\"";
-            case 5:
-                return below(2) ? u"TRUE" : u"#N/A";
-            default:
-                return below(2) ? u"my_name" : u"{1,-2;\"x\",TRUE}";
-        }
-    }
-    switch (below(6)) {
-        case 0:
-            return part() + u"+" + part();
-        case 1:
-            return u"(" + part() + u")&" + part();
-        case 2:
-            return u"IF(" + part() + u"," + part() + u"," + part() + u")";
-        case 3:
-            return u"FORMULATEXT(" + cell() + u")";
-        case 4:
-            return u"SUM((" + area() + u"," + cell() + u")," + part() + u")";
-        default:
-            return u"CEILING(" + part() + u",$A:$C " + area() + u")";
-    }
-}
-
 }  // namespace
 
 TEST_CASE("a formula comes back as it went") {
     CHECK(rc::check("to Calc and back", [] {
-        const std::u16string formula = u"=" + random_formula(*rc::gen::inRange(0, 4));
+        static constexpr std::array<std::u16string_view, 8> places{
+            u"Sheet2!",        u"'my sheet'!", u"'it''s, so; 1.5'!", u"'A1'!",
+            u"Sheet1:Sheet3!", u"'c d'!",      u"'/p q/[f.ods]S'!",  u"Übersicht!"};
+        const std::u16string formula =
+            qor::support::FormulaGrammar(places, *rc::gen::arbitrary<std::uint32_t>()).formula();
         RC_ASSERT(qor::to_utf8(translator().to_excel(translator().to_calc(formula))) == qor::to_utf8(formula));
     }));
 }

@@ -76,6 +76,8 @@ TEST_CASE("a formula of Calc in the notation of Excel") {
     CHECK(excel(u"=my.name+1") == "=my.name+1");
     CHECK(excel(u"{=SUM(A1:A2*2)}") == "=SUM(A1:A2*2)");
     CHECK(excel(u"=SUM(Table1[[#This Row];[a]])") == "=SUM(Table1[[#This Row],[a]])");
+    CHECK(excel(u"=SUM(Table1[[#All];['[a;b']]:[c]])") == "=SUM(Table1[[#All],['[a;b']]:[c]])");
+    CHECK(excel(u"=1.5E+020+2E-010+1E+100+1E5") == "=1.5E+20+2E-10+1E+100+1E5");
     CHECK(excel(u"=$'2024'.A1+$'A1'.B2+$Übersicht.C3") == "='2024'!A1+'A1'!B2+Übersicht!C3");
 }
 
@@ -110,6 +112,11 @@ TEST_CASE("a formula of Excel in the notation of Calc") {
     CHECK(calc(u"=SUM(A:A)+SUM(1:2)") == "=SUM(A:A)+SUM(1:2)");
     CHECK(calc(u"=IF(TRUE,FALSE,true())") == "=IF(TRUE();FALSE();true())");
     CHECK(calc(u"=CONVERT(1,\"m\",\"ft\")") == "=COM.SUN.STAR.SHEET.ADDIN.ANALYSIS.GETCONVERT(1;\"m\";\"ft\")");
+    CHECK(calc(u"=SUM(Table1[[#All],['[a,b']]:[c]])") == "=SUM(Table1[[#All];['[a,b']]:[c]])");
+    CHECK(calc(u"=A:A 3:4") == "=A:A!3:4");
+    CHECK(calc(u"=IF(A1 , 3,4)") == "=IF(A1 ; 3;4)");
+    CHECK(calc(u"='2024'!A1+'A1'!B2+'c.d'!C3+Übersicht!D4") == "=$'2024'.A1+$'A1'.B2+$'c.d'.C3+$Übersicht.D4");
+    CHECK(calc(u"=open.xlsx!total") == "='file:///tables/open.xlsx'#total");
     CHECK(calc(u"=Sheet2!rate*rate") == "=$Sheet2.rate*rate");
     CHECK(calc(u"=SUM(Table1[[#This Row],[a]])") == "=SUM(Table1[[#This Row];[a]])");
 }

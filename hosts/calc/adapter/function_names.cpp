@@ -36,16 +36,21 @@ NamesByOperation names_in(const Ref<css::sheet::XFormulaOpCodeMapper>& mapper, s
 
 // In files newer functions carry prefixes that the user never sees.
 std::u16string_view without_prefix(std::u16string_view name) {
-    static constexpr std::array<std::u16string_view, 4> prefixes{u"_xlfn.ORG.LIBREOFFICE.", u"_xlfn.ORG.OPENOFFICE.",
-                                                                 u"_xlfn.COM.MICROSOFT.", u"_xlfn."};
+    static constexpr std::array<std::u16string_view, 5> prefixes{
+        u"_xlfn.ORG.LIBREOFFICE.", u"_xlfn.ORG.OPENOFFICE.", u"_xlfn.COM.MICROSOFT.", u"_xlfn.", u"ORG.OPENOFFICE."};
     for (const std::u16string_view prefix : prefixes) {
         if (name.starts_with(prefix)) return name.substr(prefix.size());
     }
     return name;
 }
 
-bool is_foreign(std::u16string_view file_name) {
-    return file_name.starts_with(u"_xlfn.ORG.") || file_name.starts_with(u"COM.SUN.STAR.");
+// Excel's own names come first: what only Calc has must not take one of them. The last ones are no user's.
+enum class Origin : std::uint8_t { excel, calc, interface };
+
+Origin origin_of(std::u16string_view file_name) {
+    if (file_name.starts_with(u"COM.SUN.STAR.")) return Origin::interface;
+    const bool own = file_name.starts_with(u"_xlfn.ORG.") || file_name.starts_with(u"ORG.OPENOFFICE.");
+    return own ? Origin::calc : Origin::excel;
 }
 
 }  // namespace
@@ -57,20 +62,22 @@ FunctionNames function_names(const Document& any_document) {
     const NamesByOperation file_names = names_in(mapper, css::sheet::FormulaLanguage::OOXML);
 
     FunctionNames names;
-    // Excel's own names first: what only Calc has must not take one of them.
-    for (const bool foreign : {false, true}) {
+    for (const Origin origin : {Origin::excel, Origin::calc, Origin::interface}) {
         for (const auto& [operation, file_name] : file_names) {
-            if (is_foreign(file_name) != foreign) continue;
+            if (origin_of(file_name) != origin) continue;
             const auto calc_name = calc_names.find(operation);
             if (calc_name == calc_names.end()) continue;
             const std::u16string in_calc = to_upper(calc_name->second);
             const std::u16string in_excel = to_upper(without_prefix(file_name));
-            if (foreign && names.calc_by_excel.contains(in_excel)) continue;
+            if (origin != Origin::excel && names.calc_by_excel.contains(in_excel)) continue;
             names.excel_by_calc.try_emplace(in_calc, in_excel);
             const auto [reverse, added] = names.calc_by_excel.try_emplace(in_excel, in_calc);
             if (!added && in_calc == in_excel) reverse->second = in_calc;
         }
     }
+    // The one that the office's table for files does not know.
+    names.excel_by_calc[u"B"] = u"BINOM.DIST.RANGE";
+    names.calc_by_excel[u"BINOM.DIST.RANGE"] = u"B";
     return names;
 }
 

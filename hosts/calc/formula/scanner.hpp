@@ -37,8 +37,15 @@ class Scanner {
         return text_.substr(start, position_ - start);
     }
 
+    // The number that stands here, empty if there is none.
+    std::u16string_view take_number();
+
     // Copies a text constant, a number or an error constant if one stands here.
     bool copy_constant();
+
+    // Copies what stands in square brackets here, the columns of a table, with another sign between its parts. In the
+    // name of a column an apostrophe protects the character behind it.
+    void copy_brackets(char16_t separator, char16_t translated);
 
   private:
     std::u16string_view text_;

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <vector>
 
 #include "hosts/calc/formula/scanner.hpp"
@@ -84,23 +83,25 @@ class ToCalc {
     void spaces() {
         const std::size_t start = in_.position();
         while (in_.here() == u' ') in_.take();
-        const char16_t c = in_.here();
-        const bool operand_follows = is_letter(c) || c == u'_' || c == u'$' || c == u'\'' || c == u'(' || c == u'[';
-        if (after_operand_ && operand_follows) {
+        if (after_operand_ && operand_follows()) {
             in_.put(u'!');
         } else {
             in_.put(in_.text().substr(start, in_.position() - start));
         }
     }
 
+    bool operand_follows() {
+        const char16_t c = in_.here();
+        if (is_letter(c) || c == u'_' || c == u'$' || c == u'\'' || c == u'(' || c == u'[') return true;
+        if (error_constant_at(in_.text(), in_.position()) == u"#REF!") return true;
+        // A whole row: 3:4.
+        std::size_t ahead = 0;
+        while (is_digit(in_.peek(ahead))) ++ahead;
+        return ahead > 0 && in_.peek(ahead) == u':';
+    }
+
     void copy_brackets() {
-        int depth = 0;
-        do {
-            const char16_t c = in_.take();
-            if (c == u'[') ++depth;
-            if (c == u']') --depth;
-            in_.put(c == u',' ? u';' : c);
-        } while (depth > 0 && !in_.at_end());
+        in_.copy_brackets(u',', u';');
         after_operand_ = true;
     }
 
@@ -152,6 +153,10 @@ class ToCalc {
             in_.put(in_quotes(address_of_path(place)) + u"#");
             in_.put(in_.take_word());
             return;
+        } else if (const std::u16string address = books_ ? books_(place) : std::u16string(); !address.empty()) {
+            in_.put(in_quotes(address) + u"#");
+            in_.put(in_.take_word());
+            return;
         }
         const std::size_t colon = sheets.find(u':');
         const std::u16string first = sheet_text(sheets.substr(0, colon));
@@ -180,9 +185,9 @@ class ToCalc {
     }
 
     static std::u16string sheet_text(std::u16string_view sheet) {
-        const bool plain = std::ranges::all_of(
-            sheet, [](char16_t c) { return is_letter(c) || is_digit(c) || c == u'_' || c >= 0x80; });
-        return u"$" + (plain && !sheet.empty() ? std::u16string(sheet) : in_quotes(sheet)) + u".";
+        // Calc takes a dot for the end of the name.
+        const bool quotes = needs_quotes(sheet) || sheet.find(u'.') != std::u16string_view::npos;
+        return u"$" + (quotes ? in_quotes(sheet) : std::u16string(sheet)) + u".";
     }
 
     // `place` and `last_place` stand in front of the two corners.

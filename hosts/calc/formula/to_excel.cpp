@@ -54,7 +54,7 @@ class ToExcel {
             in_array_ = c == u'{';
             in_.put(in_.take());
         } else if (c == u'[') {
-            copy_brackets();
+            in_.copy_brackets(u';', u',');
         } else if (c == u';' || c == u'~') {
             in_.take();
             in_.put(u',');
@@ -64,20 +64,9 @@ class ToExcel {
         } else if (c == u'!') {
             in_.take();
             in_.put(u' ');
-        } else if (!placed_reference() && !reference({}) && !in_.copy_constant()) {
+        } else if (!placed_reference() && !reference({}) && !number() && !in_.copy_constant()) {
             word();
         }
-    }
-
-    // Columns of a table: only the separators differ.
-    void copy_brackets() {
-        int depth = 0;
-        do {
-            const char16_t c = in_.take();
-            if (c == u'[') ++depth;
-            if (c == u']') --depth;
-            in_.put(c == u';' ? u',' : c);
-        } while (depth > 0 && !in_.at_end());
     }
 
     // Reads [$]Sheet. or [$]'a sheet'. or 'file:///a book'#[$]Sheet. or #REF!. ; moves only when it is there.
@@ -188,6 +177,18 @@ class ToExcel {
         in_.put(u'!');
     }
 
+    // Calc writes three digits of an exponent.
+    bool number() {
+        const std::u16string_view text = in_.take_number();
+        if (text.empty()) return false;
+        const std::size_t exponent = text.find_first_of(u"+-") + 1;  // 0 when there is none
+        std::size_t digits = exponent;
+        while (exponent > 0 && text.size() - digits > 2 && text[digits] == u'0') ++digits;
+        in_.put(text.substr(0, exponent));
+        in_.put(text.substr(digits));
+        return true;
+    }
+
     // A function, a name, or a single character that both notations share.
     void word() {
         const std::u16string_view word = in_.take_word();
@@ -205,7 +206,7 @@ class ToExcel {
             return;
         }
         static constexpr std::u16string_view add_in = u"_XLL.";
-        if (name.starts_with(add_in)) {
+        if (name.starts_with(add_in) && !names_.calc_by_excel.contains(name.substr(add_in.size()))) {
             in_.put(word.substr(add_in.size()));
             return;
         }
