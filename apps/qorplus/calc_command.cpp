@@ -12,7 +12,7 @@
 #include "core/product.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
-#include "platform/ini_settings_store.hpp"
+#include "platform/user_folders.hpp"
 
 namespace qor::cli {
 namespace {
@@ -54,7 +54,7 @@ void become_calc(const std::vector<std::string>& files) {
         if (!fs::exists(file)) throw UsageError("there is no file " + file);
     }
     const fs::path program = calc::office_program_folder();
-    const fs::path own = default_settings_path(product::company, product::title, product::version).parent_path();
+    const fs::path own = settings_folder(product::name);
     const fs::path extensions = link_extensions(own / "extensions", program / "../share/extensions");
     std::vector<std::string> arguments{program / "soffice",
                                        "--calc",

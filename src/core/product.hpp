@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/user_folders.hpp"
+
 // The facts of this build, as QTitle, QCompany, QMajor and QMinor tell them and the About box shows them.
 namespace qor::product {
 
@@ -14,5 +16,8 @@ inline constexpr std::int32_t revision = 5;
 
 // Major and minor: each pair has settings of its own.
 inline constexpr std::u16string_view version = u"2.6";
+
+inline constexpr ProductName name{company, title, version};
+inline constexpr std::string_view settings_file = "settings.ini";  // in the settings folder
 
 }  // namespace qor::product

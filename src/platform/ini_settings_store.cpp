@@ -1,7 +1,6 @@
 #include "platform/ini_settings_store.hpp"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
@@ -163,17 +162,6 @@ bool update(const std::filesystem::path& path, MakeChange make_change) {
                                                                                   : LockedFile::Previous::discarded);
 }
 
-std::filesystem::path folder_from_environment(const char* variable) {
-    const char* folder = std::getenv(variable);
-    return folder && *folder == '/' ? folder : "";
-}
-
-std::filesystem::path configuration_folder() {
-    if (auto folder = folder_from_environment("XDG_CONFIG_HOME"); !folder.empty()) return folder;
-    const auto home = folder_from_environment("HOME");
-    return (home.empty() ? std::filesystem::path(g_get_home_dir()) : home) / ".config";
-}
-
 }  // namespace
 
 IniSettingsStore::IniSettingsStore(std::filesystem::path file) : file_(std::move(file)) {}
@@ -195,11 +183,6 @@ bool IniSettingsStore::erase(std::u16string_view section, std::u16string_view na
 
 bool IniSettingsStore::erase_section(std::u16string_view section) {
     return update(file_, [&](Settings& settings) { return settings.remove_section(section); });
-}
-
-std::filesystem::path default_settings_path(std::u16string_view company, std::u16string_view title,
-                                            std::u16string_view version) {
-    return configuration_folder() / to_utf8(company) / to_utf8(title) / to_utf8(version) / "settings.ini";
 }
 
 }  // namespace qor

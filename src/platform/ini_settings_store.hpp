@@ -25,8 +25,4 @@ class IniSettingsStore final : public SettingsStore {
     std::filesystem::path file_;
 };
 
-// The file below the user's configuration folder by the XDG rules: $XDG_CONFIG_HOME if it is absolute, else ~/.config.
-std::filesystem::path default_settings_path(std::u16string_view company, std::u16string_view title,
-                                            std::u16string_view version);
-
 }  // namespace qor

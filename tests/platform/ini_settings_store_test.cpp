@@ -236,22 +236,3 @@ TEST_CASE_FIXTURE(Fixture, "a file that is a symbolic link stays one") {
     CHECK(std::filesystem::is_symlink(file));
     CHECK(content_of(folder.path / "real" / "mine.ini") == "[Options]\na=2\n");
 }
-
-TEST_CASE("the settings file lies in the user's configuration folder") {
-    const auto with = [](const char* configuration, const char* home) {
-        configuration ? ::setenv("XDG_CONFIG_HOME", configuration, 1) : ::unsetenv("XDG_CONFIG_HOME");
-        ::setenv("HOME", home, 1);
-        return default_settings_path(u"Ombrel", u"QOR Plus", u"2.6").native();
-    };
-    const char* configuration = ::getenv("XDG_CONFIG_HOME");
-    const auto before = configuration ? std::optional<std::string>(configuration) : std::nullopt;
-    const char* home = ::getenv("HOME");
-    const std::string home_before = home ? home : "";
-
-    CHECK(with("/etc/mine", "/home/me") == "/etc/mine/Ombrel/QOR Plus/2.6/settings.ini");
-    CHECK(with(nullptr, "/home/me") == "/home/me/.config/Ombrel/QOR Plus/2.6/settings.ini");
-    CHECK(with("", "/home/me") == "/home/me/.config/Ombrel/QOR Plus/2.6/settings.ini");
-    CHECK(with("relative/folder", "/home/me") == "/home/me/.config/Ombrel/QOR Plus/2.6/settings.ini");
-
-    with(before ? before->c_str() : nullptr, home_before.c_str());
-}

@@ -19,6 +19,7 @@
 #include "screens/script/session/replaced_file.hpp"
 #include "screens/script/session/script_shape.hpp"
 #include "screens/script/session/workbook_lookup.hpp"
+#include "stores/data_folder.hpp"
 
 namespace qor {
 namespace {
@@ -44,7 +45,7 @@ class Session {
           open_before_(workbooks()) {
         set_environment({screen_, settings_});
         com_ = make_object<CCom>();
-        com_.put(MemberName(u"QThisWrkBkPath"), from_utf8(data_folder().native()));
+        com_.put(MemberName(u"QThisWrkBkPath"), from_utf8(data_path().native()));
         write_settings();
     }
     Session(const Session&) = delete;
@@ -87,17 +88,19 @@ class Session {
     }
 
     std::filesystem::path settings_path() const {
-        return user_ ? default_settings_path(product::company, product::title, product::version)
-                     : folders_.temporary / "settings.ini";
+        return (user_ ? settings_folder(product::name) : folders_.temporary) / product::settings_file;
     }
 
-    std::filesystem::path data_folder() const {
+    // One that the script names is taken as it is; others get the files that they lack.
+    std::filesystem::path data_path() const {
         if (script_.contains("data")) {
             auto folder = path_of(required_text(script_, "data", "the script"), folders_.current);
             if (!std::filesystem::is_directory(folder)) throw ScriptError("there is no folder " + folder.string());
             return folder;
         }
-        return user_ ? settings_path().parent_path() : folders_.temporary;
+        auto folder = user_ ? data_folder(product::name) : folders_.temporary;
+        create_data_files(folder);
+        return folder;
     }
 
     void write_settings() {
@@ -154,7 +157,7 @@ class Session {
     }
 
     json call(const json& step, const std::string& where) {
-        require_keys(step, {"call", "args", "forms", "answers", "ranges", "files"}, where);
+        require_keys(step, {"call", "args", "forms", "answers", "ranges", "files", "folders", "colors"}, where);
         const Member<CCom>& member = find_member(required_text(step, "call", where));
         std::vector<Variant> arguments = arguments_of(member, list_at(step, "args", where));
         json entry{{"call", to_utf8(member.name)}, {"result", nullptr}, {"error", nullptr}};
