@@ -129,4 +129,20 @@ TEST_CASE("a deleted reference reads #REF!") {
     CHECK(sheet.get(names::Range, u"A1").get(names::Value) == Variant(ErrorValue{2023}));
 }
 
+TEST_CASE("a blank range beside formulas has none of them") {
+    const Calc calc;
+    const Object sheet = calc.add_sheet();
+    sheet.get(names::Range, u"A1").put(names::Formula, u"=1/0");
+    sheet.get(names::Range, u"A2").put(names::Formula, u"=1=1");
+    sheet.get(names::Range, u"B1:B3").put(names::FormulaArray, u"={1;2;3}");
+    const Object beside = sheet.get(names::Range, u"E1:F9");
+    CHECK(beside.get(names::HasFormula) == false);
+    CHECK(beside.get(names::HasArray) == false);
+    CHECK(beside.get(names::Formula).array()->at(0) == u"");
+    CHECK(beside.get(names::Value).array()->at(0) == Variant(Empty{}));
+    CHECK(sheet.get(names::Range, u"E1").get(names::Formula) == u"");
+    sheet.get(names::Range, u"E1:E2").put(names::Value, 5.0);
+    CHECK(sheet.get(names::Range, u"E2").get(names::Value) == 5.0);
+}
+
 }  // namespace qor::calc::tests

@@ -54,7 +54,7 @@ std::set<Position> cells_showing(const Cells& cells, const rtl::OUString& text) 
 
 }  // namespace
 
-std::vector<CellError> cell_errors(const Cells& cells, const css::uno::Sequence<css::table::CellRangeAddress>& places) {
+std::vector<CellError> cell_errors(const Cells& cells, const CellPlaces& places) {
     constexpr std::size_t few = 16;  // up to here asking each cell is cheaper than searching
     const Rectangle origin = rectangle_of(cells);
     std::vector<Position> open;

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "hosts/calc/adapter/range_areas.hpp"
+#include "hosts/calc/adapter/cell_query.hpp"
 
 namespace qor::calc {
 
@@ -13,6 +13,6 @@ struct CellError {
 };
 
 // The errors in the given places of a range, which all hold formulas with an error.
-std::vector<CellError> cell_errors(const Cells& cells, const css::uno::Sequence<css::table::CellRangeAddress>& places);
+std::vector<CellError> cell_errors(const Cells& cells, const CellPlaces& places);
 
 }  // namespace qor::calc

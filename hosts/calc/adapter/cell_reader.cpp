@@ -8,6 +8,7 @@
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 
 #include "hosts/calc/adapter/cell_errors.hpp"
+#include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/number_kinds.hpp"
 #include "hosts/calc/adapter/number_text.hpp"
 #include "hosts/calc/formula/notation.hpp"
@@ -18,10 +19,6 @@ namespace {
 
 using Data = css::uno::Sequence<css::uno::Sequence<css::uno::Any>>;
 using Texts = css::uno::Sequence<css::uno::Sequence<rtl::OUString>>;
-using Places = css::uno::Sequence<css::table::CellRangeAddress>;
-
-constexpr sal_Int32 any_result =
-    css::sheet::FormulaResult::VALUE | css::sheet::FormulaResult::STRING | css::sheet::FormulaResult::ERROR;
 
 // What one range holds, as the office hands it out, and the table that is made of it.
 class Reading {
@@ -49,11 +46,11 @@ class Reading {
             if (const bool* truth = entry.get_if<bool>()) entry = *truth ? u"TRUE" : u"FALSE";
             if (entry.is_empty()) entry = u"";
         }
-        const Places formula_places = formula_cells();
-        if (formula_places.getLength() == 0) return result();
+        const CellPlaces places = formula_places(cells_);
+        if (places.empty()) return result();
         const Texts texts = formula_texts();
         const FormulaTranslator& translator = sheet_.book.host->translator();
-        for_each(formula_places, [&](std::size_t place) {
+        for_each(places, [&](std::size_t place) {
             const std::u16string_view text = view_of(text_at(texts, place));
             const std::u16string_view constant = constant_in(text);
             table_.at(place) = constant.empty() ? translator.to_excel(text) : std::u16string(constant);
@@ -63,8 +60,8 @@ class Reading {
 
     FormulaCounts counts() {
         FormulaCounts result{.cells = origin_.cells()};
-        const Places places = formula_cells();
-        if (places.getLength() == 0) return result;
+        const CellPlaces places = formula_places(cells_);
+        if (places.empty()) return result;
         const Texts texts = formula_texts();
         for_each(places, [&](std::size_t place) {
             const std::u16string_view text = view_of(text_at(texts, place));
@@ -76,8 +73,6 @@ class Reading {
 
   private:
     Ref<css::sheet::XCellRangesQuery> query() const { return Ref<css::sheet::XCellRangesQuery>(cells_); }
-
-    Places formula_cells() const { return Ref(query()->queryFormulaCells(any_result))->getRangeAddresses(); }
 
     Texts formula_texts() const { return Ref<css::sheet::XCellRangeFormula>(cells_)->getFormulaArray(); }
 
@@ -147,8 +142,8 @@ class Reading {
 
     // An xls file brings Booleans as formulas in cells of a plain format.
     void apply_constants() {
-        const Places places = Ref(query()->queryFormulaCells(css::sheet::FormulaResult::VALUE))->getRangeAddresses();
-        if (places.getLength() == 0) return;
+        const CellPlaces places = formula_places(cells_, css::sheet::FormulaResult::VALUE);
+        if (places.empty()) return;
         const Texts texts = formula_texts();
         for_each(places, [&](std::size_t place) {
             const std::u16string_view constant = constant_in(view_of(text_at(texts, place)));
@@ -157,7 +152,7 @@ class Reading {
     }
 
     void apply_errors() {
-        const Places places = Ref(query()->queryFormulaCells(css::sheet::FormulaResult::ERROR))->getRangeAddresses();
+        const CellPlaces places = formula_places(cells_, css::sheet::FormulaResult::ERROR);
         for (const CellError& error : cell_errors(cells_, places)) {
             table_.at(place_of(error.column, error.row)) = ErrorValue{error.code};
         }

@@ -3,16 +3,14 @@
 #include <algorithm>
 #include <com/sun/star/beans/XPropertyState.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
-#include <com/sun/star/sheet/FormulaResult.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
+#include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/uno/property.hpp"
 
@@ -39,12 +37,8 @@ bool has_locked_cell(const Cells& cells) {
 // Whether an array formula lies partly in the cells and partly outside.
 bool cuts_array(const Sheet& sheet, const Cells& cells) {
     const Rectangle area = rectangle_of(cells);
-    constexpr sal_Int32 any_result =
-        css::sheet::FormulaResult::VALUE | css::sheet::FormulaResult::STRING | css::sheet::FormulaResult::ERROR;
-    const auto formulas =
-        Ref(Ref<css::sheet::XCellRangesQuery>(cells)->queryFormulaCells(any_result))->getRangeAddresses();
     std::vector<Rectangle> known;
-    for (const css::table::CellRangeAddress& at : formulas) {
+    for (const css::table::CellRangeAddress& at : formula_places(cells)) {
         const Cells run = cells_at(sheet, {at.StartColumn, at.StartRow, at.EndColumn, at.EndRow});
         const auto texts = Ref<css::sheet::XCellRangeFormula>(run)->getFormulaArray();
         for (sal_Int32 row = 0; row < texts.getLength(); ++row) {
