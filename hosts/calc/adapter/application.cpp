@@ -8,6 +8,7 @@
 #include <com/sun/star/sheet/XCalculatable.hpp>
 
 #include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/convert_formula.hpp"
 #include "hosts/calc/adapter/objects.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
@@ -114,6 +115,13 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
         for (const Document& document : host_->documents()) Ref<css::sheet::XCalculatable>(document)->calculate();
     }
 
+    Variant converted_formula(const std::u16string& formula, std::int32_t from_style,
+                              std::optional<std::int32_t> to_style, std::optional<std::int32_t> kind,
+                              const Variant& relative_to) {
+        return convert_formula(host_, formula, from_style, to_style, kind, relative_to);
+    }
+    Object worksheet_function() { return make_worksheet_function(host_); }
+
     Object application() { return make_application(host_); }
 
     HostPointer host_;
@@ -130,6 +138,8 @@ const MemberTable<ApplicationObject>& ApplicationObject::members() {
         method<&A::calculate>(u"Calculate"),
         property<&A::cells>(u"Cells", {u"RowIndex", u"ColumnIndex"}),
         property<&A::columns>(u"Columns", {u"Index"}),
+        method<&A::converted_formula>(
+            u"ConvertFormula", {u"Formula", u"FromReferenceStyle", u"ToReferenceStyle", u"ToAbsolute", u"RelativeTo"}),
         property<&A::display_alerts, &A::set_display_alerts>(u"DisplayAlerts"),
         method<&A::help>(u"Help", {u"HelpFile", u"HelpContextID"}),
         property<&A::name>(u"Name"),
@@ -143,6 +153,7 @@ const MemberTable<ApplicationObject>& ApplicationObject::members() {
         property<&A::version>(u"Version"),
         property<&A::windows>(u"Windows", {u"Index"}),
         property<&A::workbooks>(u"Workbooks", {u"Index"}),
+        property<&A::worksheet_function>(u"WorksheetFunction"),
         property<&A::worksheets>(u"Worksheets", {u"Index"}),
     });
     return table;

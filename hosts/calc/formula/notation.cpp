@@ -95,18 +95,21 @@ std::u16string corner_text(const Corner& corner) {
     return text;
 }
 
+CornerPair whole_strips(CornerPair range) {
+    auto& [first, last] = range;
+    if (!first.is_cell() || !last.is_cell()) return range;
+    if (first.column == 0 && last.column == column_limit - 1) {
+        first.column = last.column = -1;
+    } else if (first.row == 0 && last.row == row_limit - 1) {
+        first.row = last.row = -1;
+    }
+    return range;
+}
+
 std::u16string range_text(const Corner& first, const Corner& last) {
     if (first.deleted || last.deleted) return std::u16string(deleted_part);
-    Corner start = first;
-    Corner end = last;
-    if (first.is_cell() && last.is_cell()) {
-        if (first.column == 0 && last.column == column_limit - 1) {
-            start.column = end.column = -1;
-        } else if (first.row == 0 && last.row == row_limit - 1) {
-            start.row = end.row = -1;
-        }
-    }
-    return corner_text(start) + u":" + corner_text(end);
+    const CornerPair range = whole_strips({first, last});
+    return corner_text(range.first) + u":" + corner_text(range.last);
 }
 
 std::optional<CornerPair> parse_range(std::u16string_view text) {

@@ -43,11 +43,14 @@ std::u16string corner_text(const Corner& corner);
 // Whole columns as A:C and whole rows as 1:3; "#REF!" if one is deleted. Both have to be of one kind.
 std::u16string range_text(const Corner& first, const Corner& last);
 
-// A reference as the user writes it, without a sheet: A1, $A$1:B2, A:C, 1:3. None if it is something else.
 struct CornerPair {
     Corner first;
     Corner last;
 };
+// A range of cells from edge to edge of the sheet as the whole rows or columns that it is.
+CornerPair whole_strips(CornerPair range);
+
+// A reference as the user writes it, without a sheet: A1, $A$1:B2, A:C, 1:3. None if it is something else.
 std::optional<CornerPair> parse_range(std::u16string_view text);
 
 // The text between the quotes at `position`, with doubled quotes made single; `position` moves behind the last quote.
