@@ -66,6 +66,7 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
     }
     Variant workbooks(const Variant& index) { return item_or_all(make_workbooks(host_), index); }
     Variant windows(const Variant& index) { return item_or_all(make_windows(host_, {}), index); }
+    Variant command_bars(const Variant& index) { return item_or_all(make_command_bars(host_), index); }
     Variant worksheets(const Variant& index) { return item_or_all(make_sheets(active_book(host_)), index); }
 
     Variant range(const Variant& first, const Variant& last) {
@@ -138,6 +139,7 @@ const MemberTable<ApplicationObject>& ApplicationObject::members() {
         method<&A::calculate>(u"Calculate"),
         property<&A::cells>(u"Cells", {u"RowIndex", u"ColumnIndex"}),
         property<&A::columns>(u"Columns", {u"Index"}),
+        property<&A::command_bars>(u"CommandBars", {u"Index"}),
         method<&A::converted_formula>(
             u"ConvertFormula", {u"Formula", u"FromReferenceStyle", u"ToReferenceStyle", u"ToAbsolute", u"RelativeTo"}),
         property<&A::display_alerts, &A::set_display_alerts>(u"DisplayAlerts"),

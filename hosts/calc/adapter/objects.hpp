@@ -26,6 +26,7 @@ Object make_borders(RangeAreas areas);
 Object make_comment(Sheet sheet, css::table::CellAddress cell);
 Object make_comments(Sheet sheet);
 Object make_hyperlinks(RangeAreas areas);
+Object make_command_bars(HostPointer host);
 Object make_worksheet_function(HostPointer host);
 
 // The application, or the property of it that most objects repeat.

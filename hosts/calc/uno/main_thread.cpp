@@ -9,6 +9,8 @@
 #include <future>
 #include <rtl/ref.hxx>
 
+#include "hosts/calc/uno/guarded.hpp"
+
 namespace qor::calc {
 namespace {
 
@@ -34,11 +36,31 @@ class Callback final : public cppu::WeakImplHelper1<css::awt::XCallback> {
     std::promise<void> finished_;
 };
 
+class Posted final : public cppu::WeakImplHelper1<css::awt::XCallback> {
+  public:
+    explicit Posted(std::function<void()> work) : work_(std::move(work)) {}
+
+    void SAL_CALL notify(const css::uno::Any&) override {
+        attempt([&] { guarded(work_); });
+    }
+
+  private:
+    std::function<void()> work_;
+};
+
 }  // namespace
+
+bool on_main_thread() noexcept {
+    return gettid() == getpid();
+}
+
+void post_to_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context, std::function<void()> work) {
+    css::awt::AsyncCallback::create(context)->addCallback(new Posted(std::move(work)), css::uno::Any());
+}
 
 void run_on_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context,
                         const std::function<void()>& work) {
-    if (gettid() == getpid()) {
+    if (on_main_thread()) {
         work();
         return;
     }

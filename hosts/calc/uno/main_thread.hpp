@@ -10,4 +10,11 @@ namespace qor::calc {
 void run_on_main_thread(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
                         const std::function<void()>& work);
 
+// Has the office's main thread do the work when it is next free, and returns at once. What the work throws is lost: it
+// has no caller.
+void post_to_main_thread(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
+                         std::function<void()> work);
+
+bool on_main_thread() noexcept;
+
 }  // namespace qor::calc

@@ -1,0 +1,158 @@
+#include "hosts/calc/bars/bar_content.hpp"
+
+#include <algorithm>
+#include <com/sun/star/lang/XSingleComponentFactory.hpp>
+#include <com/sun/star/ui/ItemStyle.hpp>
+#include <com/sun/star/ui/ItemType.hpp>
+#include <map>
+
+#include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/uno/sequence.hpp"
+
+namespace qor::calc {
+namespace {
+
+using css::container::XIndexAccess;
+using css::container::XIndexContainer;
+using css::uno::Reference;
+using rtl::OUString;
+namespace style = css::ui::ItemStyle;
+
+// The numbers that macro authors know the menus by. The office's other controls have none, which is 0.
+const std::map<std::u16string_view, std::int32_t> menu_ids{
+    {u".uno:PickList", 30002},   {u".uno:EditMenu", 30003},   {u".uno:ViewMenu", 30004},
+    {u".uno:InsertMenu", 30005}, {u".uno:FormatMenu", 30006}, {u".uno:ToolsMenu", 30007},
+    {u".uno:WindowList", 30009}, {u".uno:HelpMenu", 30010},   {u".uno:DataMenu", 30011},
+};
+
+struct Item {
+    std::u16string command;
+    std::u16string label;
+    sal_Int16 type = css::ui::ItemType::DEFAULT;
+    bool visible = true;
+    Reference<XIndexAccess> children;
+
+    bool is_separator() const { return type != css::ui::ItemType::DEFAULT; }
+    bool is_own() const { return command.starts_with(own_command_prefix); }
+};
+
+Item item_at(const Ref<XIndexAccess>& content, sal_Int32 place) {
+    Item item;
+    for (const auto& property : value_of<PropertyValues>(content->getByIndex(place))) {
+        OUString text;
+        if (property.Name == "CommandURL" && (property.Value >>= text)) item.command = from_uno(text);
+        if (property.Name == "Label" && (property.Value >>= text)) item.label = from_uno(text);
+        if (property.Name == "Type") property.Value >>= item.type;
+        if (property.Name == "IsVisible") property.Value >>= item.visible;
+        if (property.Name == "ItemDescriptorContainer") property.Value >>= item.children;
+    }
+    return item;
+}
+
+PropertyValues separator() {
+    return sequence_of({named_value("CommandURL", to_uno(own_command_prefix)),
+                        named_value("Type", sal_Int16(css::ui::ItemType::SEPARATOR_LINE))});
+}
+
+sal_Int16 style_of(const Control& control) {
+    if (control.type == ControlType::popup) return style::TEXT | style::DROPDOWN_ONLY;
+    if (control.type == ControlType::drop_down) return 0;
+    return control.face.is() ? style::ICON : style::TEXT;
+}
+
+PropertyValues described(BarKind kind, const Control& control, const Reference<XIndexAccess>& children) {
+    const bool on_menu = kind == BarKind::menu_bar;
+    const std::u16string label = on_menu ? office_label(control.caption) : plain_caption(control.caption);
+    std::vector<css::beans::PropertyValue> properties{named_value("CommandURL", to_uno(control.command)),
+                                                      named_value("Label", to_uno(label)),
+                                                      named_value("Type", sal_Int16(css::ui::ItemType::DEFAULT)),
+                                                      named_value("Style", on_menu ? sal_Int16(0) : style_of(control))};
+    if (!control.tool_tip.empty()) properties.push_back(named_value("Tooltip", to_uno(control.tool_tip)));
+    if (children.is()) properties.push_back(named_value("ItemDescriptorContainer", children));
+    return {properties.data(), static_cast<sal_Int32>(properties.size())};
+}
+
+// Where the first of the office's controls from here on stands; at the end when none follows.
+sal_Int32 place_before(const Ref<XIndexAccess>& content, Controls::const_iterator from, Controls::const_iterator end) {
+    const auto next = std::find_if(from, end, [](const ControlPointer& control) { return control->built_in; });
+    const sal_Int32 count = content->getCount();
+    if (next == end) return count;
+    for (sal_Int32 place = 0; place < count; ++place) {
+        if (item_at(content, place).command != (*next)->command) continue;
+        // The line before the office's control begins its group, not ours.
+        const bool line_before = place > 0 && item_at(content, place - 1).is_separator();
+        return line_before ? place - 1 : place;
+    }
+    return count;
+}
+
+}  // namespace
+
+Controls built_in_controls(const ModuleUi& ui, const Reference<XIndexAccess>& content) {
+    Controls result;
+    const Ref items(content);
+    bool begins_group = false;
+    for (sal_Int32 place = 0; place < items->getCount(); ++place) {
+        const Item item = item_at(items, place);
+        if (item.is_own()) continue;
+        if (item.is_separator()) {
+            begins_group = !result.empty();
+            continue;
+        }
+        auto control = std::make_shared<Control>();
+        control->built_in = true;
+        control->command = item.command;
+        const auto menu = menu_ids.find(control->command);
+        control->id = menu == menu_ids.end() ? 0 : menu->second;
+        control->type = item.children.is() ? ControlType::popup : ControlType::button;
+        control->caption = caption_of_label(item.label.empty() ? ui.label_of(item.command) : item.label);
+        control->visible = item.visible;
+        control->begin_group = std::exchange(begins_group, false);
+        control->unread_children = item.children;
+        result.push_back(std::move(control));
+    }
+    return result;
+}
+
+void remove_own(const Reference<XIndexContainer>& content) {
+    const Ref items{content};
+    for (sal_Int32 place = items->getCount(); place-- > 0;) {
+        const Item item = item_at(Ref<XIndexAccess>(items), place);
+        if (item.is_own()) {
+            items->removeByIndex(place);
+        } else if (const Reference<XIndexContainer> children{item.children, css::uno::UNO_QUERY}; children.is()) {
+            remove_own(children);
+        }
+    }
+}
+
+void insert_own(const ModuleUi& ui, BarKind kind, const Reference<XIndexContainer>& content, const Controls& controls) {
+    const Ref items{content};
+    const Ref<XIndexAccess> present(items);
+    for (auto one = controls.begin(); one != controls.end(); ++one) {
+        const Control& control = **one;
+        if (control.built_in) {
+            if (!contains_own(control.children)) continue;
+            for (sal_Int32 place = 0; place < present->getCount(); ++place) {
+                const Item item = item_at(present, place);
+                const Reference<XIndexContainer> children(item.children, css::uno::UNO_QUERY);
+                if (item.command == control.command && children.is()) insert_own(ui, kind, children, control.children);
+            }
+            continue;
+        }
+        if (!control.visible) continue;
+        Reference<XIndexAccess> children;
+        if (control.type == ControlType::popup) {
+            const Ref<css::lang::XSingleComponentFactory> factory(items);
+            const Reference<XIndexContainer> entries(factory->createInstanceWithContext(ui.context()),
+                                                     css::uno::UNO_QUERY);
+            insert_own(ui, BarKind::menu_bar, entries, control.children);
+            children.set(entries, css::uno::UNO_QUERY);
+        }
+        sal_Int32 place = place_before(present, one, controls.end());
+        if (control.begin_group && place > 0) items->insertByIndex(place++, css::uno::Any(separator()));
+        items->insertByIndex(place, css::uno::Any(described(kind, control, children)));
+    }
+}
+
+}  // namespace qor::calc

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/graphic/XGraphic.hpp>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace qor::calc {
+
+// The numbers are those of macro authors.
+enum class ControlType : std::int32_t { button = 1, drop_down = 3, popup = 10 };
+
+struct Control;
+using ControlPointer = std::shared_ptr<Control>;
+using Controls = std::vector<ControlPointer>;
+
+// An entry of a menu or a control of a toolbar. An ampersand stands before a caption's access key.
+struct Control {
+    ControlType type = ControlType::button;
+    std::u16string command;  // what the office knows it by
+    bool built_in = false;   // the office's own
+    std::int32_t id = 1;     // 1 says that it is not the office's own
+    std::u16string caption;
+    std::u16string tag;
+    std::u16string action;  // the macro that a click runs
+    std::u16string tool_tip;
+    std::u16string parameter;
+    bool begin_group = false;
+    bool enabled = true;
+    bool visible = true;
+    com::sun::star::uno::Reference<com::sun::star::graphic::XGraphic> face;
+
+    // Of a list; widths in pixels.
+    std::vector<std::u16string> items;
+    std::int32_t chosen = 0;  // counted from 1, 0 for none
+    std::int32_t width = 0;
+    std::int32_t drop_down_width = 0;
+
+    // Of a popup. What a popup of the office holds is read at first use.
+    Controls children;
+    com::sun::star::uno::Reference<com::sun::star::container::XIndexAccess> unread_children;
+
+    bool deleted = false;
+};
+
+// Whether the control is one of these or stands in a popup among them.
+bool contains(const Controls& controls, const Control& control);
+bool contains_own(const Controls& controls);
+
+// The caption without ampersands before access keys.
+std::u16string plain_caption(std::u16string_view caption);
+// Between the ampersand of macro authors and the office's tilde.
+std::u16string office_label(std::u16string_view caption);
+std::u16string caption_of_label(std::u16string_view label);
+
+}  // namespace qor::calc

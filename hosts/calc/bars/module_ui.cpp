@@ -1,0 +1,122 @@
+#include "hosts/calc/bars/module_ui.hpp"
+
+#include <algorithm>
+#include <com/sun/star/frame/Desktop.hpp>
+#include <com/sun/star/frame/theUICommandDescription.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/ui/UIElementType.hpp>
+#include <com/sun/star/ui/theModuleUIConfigurationManagerSupplier.hpp>
+#include <com/sun/star/ui/theWindowStateConfiguration.hpp>
+
+#include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/uno/sequence.hpp"
+
+namespace qor::calc {
+namespace {
+
+using Graphic = css::uno::Reference<css::graphic::XGraphic>;
+using rtl::OUString;
+
+constexpr char calc_module[] = "com.sun.star.sheet.SpreadsheetDocument";
+constexpr sal_Int16 image_sizes[] = {0, 1};  // for menus and small toolbars, for large toolbars
+
+std::u16string text_property(const PropertyValues& properties, const char* name) {
+    for (const css::beans::PropertyValue& property : properties) {
+        if (OUString text; property.Name.equalsAscii(name) && (property.Value >>= text)) return from_uno(text);
+    }
+    return {};
+}
+
+bool shows_workbook(const Ref<css::frame::XFrame>& frame) {
+    const Ref controller{frame->getController()};
+    return controller && Ref<css::sheet::XSpreadsheetDocument>(Ref{controller->getModel()});
+}
+
+}  // namespace
+
+ModuleUi::ModuleUi(css::uno::Reference<css::uno::XComponentContext> context)
+    : context_(std::move(context)),
+      manager_(css::ui::theModuleUIConfigurationManagerSupplier::get(context_)->getUIConfigurationManager(
+          OUString(calc_module))),
+      window_states_(Ref<css::container::XNameContainer>(
+          css::ui::theWindowStateConfiguration::get(context_)->getByName(OUString(calc_module)))),
+      commands_(Ref<css::container::XNameAccess>(
+          css::frame::theUICommandDescription::get(context_)->getByName(OUString(calc_module)))) {}
+
+std::vector<Ref<css::frame::XFrame>> ModuleUi::frames() const {
+    std::vector<Ref<css::frame::XFrame>> result;
+    const Ref desktop{css::frame::Desktop::create(context_)};
+    const Ref<css::container::XIndexAccess> all(Ref{desktop->getFrames()});
+    for (sal_Int32 place = 0; place < all->getCount(); ++place) {
+        Ref<css::frame::XFrame> frame(all->getByIndex(place));
+        if (frame && shows_workbook(frame)) result.push_back(std::move(frame));
+    }
+    const Ref current{desktop->getCurrentFrame()};
+    std::ranges::stable_partition(result, [&](const auto& frame) { return frame == current; });
+    return result;
+}
+
+std::vector<Ref<css::frame::XLayoutManager>> ModuleUi::layouts() const {
+    std::vector<Ref<css::frame::XLayoutManager>> result;
+    for (const Ref<css::frame::XFrame>& frame : frames()) {
+        if (auto layout = layout_of(frame)) result.push_back(std::move(layout));
+    }
+    return result;
+}
+
+std::vector<std::u16string> ModuleUi::toolbar_urls() const {
+    std::vector<std::u16string> result;
+    for (const PropertyValues& properties : manager_->getUIElementsInfo(css::ui::UIElementType::TOOLBAR)) {
+        std::u16string url = text_property(properties, "ResourceURL");
+        if (!url.starts_with(own_toolbar_prefix)) result.push_back(std::move(url));
+    }
+    std::ranges::sort(result);
+    return result;
+}
+
+std::u16string ModuleUi::toolbar_name(const std::u16string& url) const {
+    if (!window_states_->hasByName(to_uno(url))) return {};
+    return text_property(value_of<PropertyValues>(window_states_->getByName(to_uno(url))), "UIName");
+}
+
+std::u16string ModuleUi::label_of(const std::u16string& command) const {
+    if (!commands_->hasByName(to_uno(command))) return {};
+    return text_property(value_of<PropertyValues>(commands_->getByName(to_uno(command))), "Label");
+}
+
+void ModuleUi::set_content(const std::u16string& url,
+                           const css::uno::Reference<css::container::XIndexContainer>& content) const {
+    const css::uno::Reference<css::container::XIndexAccess> settings(content, css::uno::UNO_QUERY);
+    if (manager_->hasSettings(to_uno(url))) {
+        manager_->replaceSettings(to_uno(url), settings);
+    } else {
+        manager_->insertSettings(to_uno(url), settings);
+    }
+}
+
+void ModuleUi::set_image(const std::u16string& command, const Graphic& face) const {
+    const Ref<css::ui::XImageManager> images(Ref{manager_->getImageManager()});
+    const auto commands = sequence_of({to_uno(command)});
+    for (const sal_Int16 size : image_sizes) {
+        if (images->hasImage(size, commands[0])) {
+            images->replaceImages(size, commands, sequence_of({face}));
+        } else {
+            images->insertImages(size, commands, sequence_of({face}));
+        }
+    }
+}
+
+void ModuleUi::remove_image(const std::u16string& command) const {
+    const Ref<css::ui::XImageManager> images(Ref{manager_->getImageManager()});
+    const auto commands = sequence_of({to_uno(command)});
+    for (const sal_Int16 size : image_sizes) {
+        if (images->hasImage(size, commands[0])) images->removeImages(size, commands);
+    }
+}
+
+Ref<css::frame::XLayoutManager> layout_of(const Ref<css::frame::XFrame>& frame) {
+    const css::uno::Any layout = Ref<css::beans::XPropertySet>(frame)->getPropertyValue("LayoutManager");
+    return Ref<css::frame::XLayoutManager>(layout);
+}
+
+}  // namespace qor::calc
