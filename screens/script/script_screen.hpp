@@ -23,6 +23,7 @@ class ScriptScreen final : public Screen {
     nlohmann::json end_call(bool command_failed = false);
 
     void show_modal(Form& form) override;
+    void show_again(Form&) override {}
     void show_modeless(Form&, Form*) override {}
     void hide(Form&) override {}
     void unload(Form&) noexcept override {}

@@ -21,6 +21,15 @@ void Form::show_modal() {
     load();
     if (!loaded_) return;  // it unloaded itself while it was loading
     visible_ = true;
+    if (waited_for_) {
+        screen_.show_again(*this);
+        return;
+    }
+    const struct Wait {
+        bool& lasts;
+        explicit Wait(bool& flag) : lasts(flag) { lasts = true; }
+        ~Wait() { lasts = false; }
+    } wait(waited_for_);
     screen_.show_modal(*this);
 }
 

@@ -29,7 +29,8 @@ class Form {
 
     // Runs on_load, the first time only. What it raises is raised on and leaves the form not loaded.
     void load();
-    // Both load the form if need be. show_modal comes back when the form has been hidden or unloaded.
+    // Both load the form if need be. show_modal comes back when the form has been hidden or unloaded. A form that hides
+    // in one of its events and shows itself again there is still waited for: that inner call comes back at once.
     void show_modal();
     void show(Form* owner);
     void hide();
@@ -50,6 +51,7 @@ class Form {
     std::vector<Control*> controls_;
     bool loaded_ = false;
     bool visible_ = false;
+    bool waited_for_ = false;  // in a show_modal
 };
 
 }  // namespace qor

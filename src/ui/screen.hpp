@@ -18,6 +18,8 @@ class Screen {
     // Comes back when the form is no longer visible, which is looked at each time an event of the form has been
     // handled: a form may hide and show itself again inside one event. What a handler raises is raised on.
     virtual void show_modal(Form& form) = 0;
+    // The form hid inside an event and is to be seen again; the wait in show_modal goes on.
+    virtual void show_again(Form& form) = 0;
     virtual void show_modeless(Form& form, Form* owner) = 0;
     virtual void hide(Form& form) = 0;
     // The form's window is to go. The form itself may be about to be destroyed.

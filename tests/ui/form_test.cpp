@@ -108,6 +108,25 @@ TEST_CASE("the window of a form that is destroyed while it is loaded goes too") 
     CHECK(screen.log == Log{u"modeless frmSample", u"unload frmSample"});
 }
 
+TEST_CASE("a form that hides and shows itself again in one event is still in its first wait") {
+    fakes::FakeScreen screen;
+    frmSample form(screen);
+    form.cmdButton.on_click = [&](int) {
+        form.hide();
+        CHECK_FALSE(form.visible());
+        form.show_modal();
+        CHECK(form.visible());
+    };
+    screen.while_modal = [&](Form&) { form.cmdButton(0).press(); };
+    form.show_modal();
+    CHECK(screen.log == Log{u"modal frmSample", u"hide frmSample", u"again frmSample"});
+    CHECK(form.loads == 1);
+    form.hide();
+    screen.while_modal = {};
+    form.show_modal();
+    CHECK(screen.log.back() == u"modal frmSample");
+}
+
 TEST_CASE("an error in a handler goes through the modal form to the command that showed it") {
     fakes::FakeScreen screen;
     {
