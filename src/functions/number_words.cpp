@@ -8,8 +8,8 @@
 #include "automation/variant.hpp"
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
+#include "runtime/number_text.hpp"
 #include "runtime/text_reader.hpp"
-#include "runtime/value_tests.hpp"
 
 namespace qor {
 namespace {
@@ -179,7 +179,7 @@ std::u16string hundreds_tens_units(NumberWords words, std::int16_t value, bool u
 
 std::u16string number_to_words(std::u16string_view number, std::u16string_view mode_text) {
     const Mode mode(mode_text);
-    if (!is_numeric(number)) return Text(improperly_formed);
+    if (!shows_number(number)) return Text(improperly_formed);
 
     const std::size_t point = std::min(number.find(u'.'), number.size());
     Text whole_text(number.substr(0, point));

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <variant>
 
 #include "runtime/locale.hpp"
 #include "runtime/text_reader.hpp"
@@ -20,14 +21,13 @@ struct Decimal {
     int exponent = 0;
 };
 
-[[noreturn]] void mismatch() {
-    throw Error(ErrorNumber::type_mismatch);
-}
+// A number, or what the conversion of the text raises: most who ask for a text that may be none do not want it raised.
+using Reading = std::variant<double, ErrorNumber>;
 
-int parse_exponent(TextReader& reader) {
+std::optional<int> read_exponent(TextReader& reader) {
     constexpr int beyond_every_number = 1'000'000;
     const bool negative = reader.take_if(u"+-") == u'-';
-    if (!reader.at_digit()) mismatch();
+    if (!reader.at_digit()) return std::nullopt;
     int exponent = 0;
     while (reader.at_digit()) exponent = std::min(exponent * 10 + (reader.take() - u'0'), beyond_every_number);
     return negative ? -exponent : exponent;
@@ -64,7 +64,8 @@ struct Decoration {
     }
 };
 
-Decimal parse_decimal(std::u16string_view text) {
+// Nothing if the text is none.
+std::optional<Decimal> read_decimal(std::u16string_view text) {
     const Locale& country = locale();
     Decimal number;
     TextReader reader(text);
@@ -85,47 +86,62 @@ Decimal parse_decimal(std::u16string_view text) {
             break;
         }
     }
-    if (number.digits.empty()) mismatch();
-    if (reader.take_if(u"ED")) number.exponent += parse_exponent(reader);
+    if (number.digits.empty()) return std::nullopt;
+    if (reader.take_if(u"ED")) {
+        const std::optional<int> exponent = read_exponent(reader);
+        if (!exponent) return std::nullopt;
+        number.exponent += *exponent;
+    }
     decoration.take(reader, country.currency_sign);
-    if (decoration.parenthesis && !reader.take_if(u")")) mismatch();
+    if (decoration.parenthesis && !reader.take_if(u")")) return std::nullopt;
     number.negative = decoration.parenthesis || decoration.sign == u'-';
     reader.skip_blanks();
-    if (!reader.at_end()) mismatch();
+    if (!reader.at_end()) return std::nullopt;
     return number;
 }
 
-// The literal's value, nothing if the text is none.
-std::optional<double> parse_literal(std::u16string_view text) {
+// The literal's value, nothing if the text does not begin as one.
+std::optional<Reading> read_literal(std::u16string_view text) {
     TextReader reader(text);
     reader.skip_blanks();
     if (!reader.take_if(u"&")) return std::nullopt;
     const std::optional<char16_t> mark = reader.take_if(u"HO");
-    if (!mark) mismatch();
+    if (!mark) return ErrorNumber::type_mismatch;
     const std::u16string_view digit_choices = mark == u'H' ? u"0123456789ABCDEF" : u"01234567";
-    if (!reader.at(digit_choices)) mismatch();
+    if (!reader.at(digit_choices)) return ErrorNumber::type_mismatch;
     std::uint64_t bits = 0;
     while (const std::optional<char16_t> digit = reader.take_if(digit_choices)) {
         bits = bits * digit_choices.size() + digit_choices.find(*digit);
-        if (bits > 0xFFFF'FFFF) throw Error(ErrorNumber::overflow);
+        if (bits > 0xFFFF'FFFF) return ErrorNumber::overflow;
     }
     const bool wide = reader.take_if(u"&").has_value() || bits > 0xFFFF;
     reader.skip_blanks();
-    if (!reader.at_end()) mismatch();
-    return wide ? static_cast<std::int32_t>(bits) : static_cast<std::int16_t>(bits);
+    if (!reader.at_end()) return ErrorNumber::type_mismatch;
+    return static_cast<double>(wide ? static_cast<std::int32_t>(bits) : static_cast<std::int16_t>(bits));
 }
 
-double to_float(const Decimal& number) {
+Reading to_float(const Decimal& number) {
     const std::string text = number.digits + 'e' + std::to_string(number.exponent);
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error == std::errc::result_out_of_range) {
         const auto leading_zeros = static_cast<int>(number.digits.find_first_not_of('0'));
         const int magnitude = static_cast<int>(number.digits.size()) - leading_zeros + number.exponent;
-        if (magnitude > 0) throw Error(ErrorNumber::overflow);
+        if (magnitude > 0) return ErrorNumber::overflow;
         value = 0;
     }
     return number.negative ? -value : value;
+}
+
+Reading read_number(std::u16string_view text) {
+    if (const std::optional<Reading> literal = read_literal(text)) return *literal;
+    const std::optional<Decimal> number = read_decimal(text);
+    return number ? to_float(*number) : ErrorNumber::type_mismatch;
+}
+
+double value_of(const Reading& reading) {
+    if (const auto* error = std::get_if<ErrorNumber>(&reading)) throw Error(*error);
+    return std::get<double>(reading);
 }
 
 // Text of the number, whose point becomes the locale's.
@@ -177,15 +193,20 @@ std::u16string general_text(Float value) {
 }  // namespace
 
 double parse_number(std::u16string_view text) {
-    if (const std::optional<double> literal = parse_literal(text)) return *literal;
-    return to_float(parse_decimal(text));
+    return value_of(read_number(text));
+}
+
+bool shows_number(std::u16string_view text) {
+    return std::holds_alternative<double>(read_number(text));
 }
 
 Currency parse_currency(std::u16string_view text) {
-    if (const std::optional<double> literal = parse_literal(text)) {
-        return {static_cast<std::int64_t>(*literal) * 10'000};
+    if (const std::optional<Reading> literal = read_literal(text)) {
+        return {static_cast<std::int64_t>(value_of(*literal)) * 10'000};
     }
-    const Decimal number = parse_decimal(text);
+    const std::optional<Decimal> shown_number = read_decimal(text);
+    if (!shown_number) throw Error(ErrorNumber::type_mismatch);
+    const Decimal& number = *shown_number;
     const std::size_t leading_zeros = number.digits.find_first_not_of('0');
     if (leading_zeros == std::string::npos) return {};
     const std::string_view digits = std::string_view(number.digits).substr(leading_zeros);

@@ -2,6 +2,7 @@
 
 #include "runtime/conversion.hpp"
 #include "runtime/date_text.hpp"
+#include "runtime/number_text.hpp"
 
 namespace qor {
 
@@ -11,6 +12,7 @@ bool is_date(const Variant& value) {
 }
 
 bool is_numeric(const Variant& value) {
+    if (const auto* text = value.get_if<std::u16string>()) return shows_number(*text);
     if (value.is(Variant::Kind::date)) return false;
     return attempt([&] { to_double(value); }) == 0;
 }

@@ -102,11 +102,12 @@ TEST_CASE("text that shows no number is a type mismatch") {
 
 TEST_CASE("whether a value is a number") {
     for (const Variant& value : std::vector<Variant>{1, 1.5, Currency{1}, true, Empty{}, u"&H1F", u"$1,000", u" (5) ",
-                                                     u"1E5", u"+7", u"1,234.5,6"}) {
+                                                     u"1E5", u"+7", u"1,234.5,6", u"&HFFFFFFFF&"}) {
         CHECK(is_numeric(value));
     }
-    for (const Variant& value : std::vector<Variant>{Date{1}, u"", u"abc", u"1/2/2003", u"1E400", Null{}, Missing{},
-                                                     ErrorValue{2007}, Object(), Array::list({1})}) {
+    for (const Variant& value :
+         std::vector<Variant>{Date{1}, u"", u"abc", u"1/2/2003", u"1E400", u"1E", u"(1", u"&H", u"&HG", u"&H100000000",
+                              Null{}, Missing{}, ErrorValue{2007}, Object(), Array::list({1})}) {
         CHECK_FALSE(is_numeric(value));
     }
 }
