@@ -85,14 +85,22 @@ class MemberTable {
         if (arguments.named.empty()) return member.invoke(target, access, arguments.positional);
         std::vector<Variant> places(arguments.positional.begin(), arguments.positional.end());
         for (const NamedArgument& argument : arguments.named) {
-            const auto parameter = std::ranges::find(member.parameters, argument.name,
-                                                     [](std::u16string_view text) { return MemberName(text); });
-            if (parameter == member.parameters.end()) throw Error(ErrorNumber::named_argument_not_found);
-            const auto place = static_cast<std::size_t>(parameter - member.parameters.begin());
+            const std::size_t place = place_of(member, argument.name);
             if (place >= places.size()) places.resize(place + 1, Missing{});
             places[place] = argument.value;
         }
-        return member.invoke(target, access, places);
+        Variant result = member.invoke(target, access, places);
+        // What a parameter by reference holds now goes back to where it came from.
+        for (NamedArgument& argument : arguments.named) argument.value = places[place_of(member, argument.name)];
+        std::copy_n(places.begin(), arguments.positional.size(), arguments.positional.begin());
+        return result;
+    }
+
+    static std::size_t place_of(const Member<Target>& member, const MemberName& name) {
+        const auto parameter =
+            std::ranges::find(member.parameters, name, [](std::u16string_view text) { return MemberName(text); });
+        if (parameter == member.parameters.end()) throw Error(ErrorNumber::named_argument_not_found);
+        return static_cast<std::size_t>(parameter - member.parameters.begin());
     }
 
     std::vector<Member<Target>> rows_;

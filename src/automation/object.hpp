@@ -18,10 +18,10 @@ struct NamedArgument;
 enum class Access : std::uint8_t { get = 1, put = 2, call = 4 };
 
 // The arguments of one access. An omitted positional argument is a Missing value. For a put the value comes last.
-// The positional ones lie in place, so that a by-reference parameter can write back.
+// They lie in place, so that a by-reference parameter can write back.
 struct Arguments {
     std::span<Variant> positional;
-    std::span<const NamedArgument> named;
+    std::span<NamedArgument> named;
 };
 
 // Anything that answers members by name. Counted; a new one starts with a count of 0 and is taken up by an Object.

@@ -280,6 +280,14 @@ TEST_CASE("a parameter by reference goes back through the add-in to the caller")
     CHECK(*com.call(EPS, 1000, 400).get_if<double>() == 2.5);
     CHECK(*com.call(EPS, 1000, 400, Missing{}, 0).get_if<double>() == 2);
 
+    arguments = {u"1000", u"300"};
+    std::vector<NamedArgument> by_name{named(MemberName(u"lDecPlace"), u"2"), named(MemberName(u"dPrfrdDiv"), u"100")};
+    CHECK(*com.invoke(EPS, Access::call, {arguments, by_name}).get_if<double>() == 3);
+    CHECK(text_of(arguments[1]) == u"300");
+    CHECK(text_of(by_name[0].value) == u"2");
+    REQUIRE(by_name[1].value.get_if<double>());
+    CHECK(*by_name[1].value.get_if<double>() == 100);
+
     arguments = {u"30", u"160", u"10"};
     CHECK(*com.invoke(DP, Access::call, {arguments, {}}).get_if<double>() == 0.2);
     CHECK(text_of(arguments[2]) == u"10");
