@@ -45,8 +45,28 @@ std::string signature(const Function& function) {
     return text;
 }
 
+const char* category_text(Category category) {
+    switch (category) {
+        case Category::financial:
+            return "Financial";
+        case Category::date_and_time:
+            return "Date & Time";
+        case Category::text:
+            return "Text";
+        case Category::logical:
+            return "Logical";
+        case Category::information:
+            return "Information";
+    }
+    return "";
+}
+
 const Function& function_named(const std::string& name) {
-    if (const Function* function = find_function(from_utf8(name))) return *function;
+    const std::u16string text = from_utf8(name);
+    if (const Function* function = find_function(text)) return *function;
+    for (const Function& function : reserved_functions()) {
+        if (equal_ignoring_case(function.name, text)) return function;
+    }
     throw UsageError(fmt::format("there is no function {}; \"qorplus functions\" lists them all", name));
 }
 
@@ -73,6 +93,39 @@ void require_fitting(const Parameter& parameter, const Variant& value, const std
     if (attempt(convert_it) != 0)
         throw UsageError(fmt::format("{} must be a {}, but {} is none", to_utf8(parameter.name),
                                      kind_text(parameter.kind), given.empty() ? "the empty text" : given));
+}
+
+nlohmann::ordered_json parameter_entry(const Parameter& parameter) {
+    nlohmann::ordered_json entry{{"name", to_utf8(parameter.name)},
+                                 {"kind", kind_text(parameter.kind)},
+                                 {"optional", parameter.is_optional()},
+                                 {"byReference", parameter.is_by_reference}};
+    if (parameter.is_optional() && !parameter.default_value->is_missing())
+        entry["default"] = write_value(*parameter.default_value);
+    return entry;
+}
+
+nlohmann::ordered_json function_entry(const Function& function, bool is_registered) {
+    auto parameters = nlohmann::ordered_json::array();
+    for (const Parameter& parameter : function.parameters) parameters.push_back(parameter_entry(parameter));
+    auto examples = nlohmann::ordered_json::array();
+    for (const Example& example : function.examples) {
+        auto arguments = nlohmann::ordered_json::array();
+        for (const Variant& argument : example.arguments) arguments.push_back(write_value(argument));
+        examples.push_back({{"arguments", std::move(arguments)}, {"result", show_value(example.result)}});
+    }
+    nlohmann::ordered_json entry{{"name", to_utf8(function.name)}, {"member", to_utf8(function.member)}};
+    entry["registered"] = is_registered;
+    if (is_registered) {
+        entry["category"] = static_cast<std::int32_t>(function.category);
+        entry["categoryName"] = category_text(function.category);
+        entry["helpId"] = function.help_id;
+        entry["description"] = to_utf8(function.description);
+    }
+    entry["parameters"] = std::move(parameters);
+    entry["result"] = kind_text(function.result_kind());
+    entry["examples"] = std::move(examples);
+    return entry;
 }
 
 }  // namespace
@@ -106,24 +159,10 @@ std::string list_functions() {
 }
 
 std::string list_functions_as_json() {
-    nlohmann::ordered_json functions = nlohmann::ordered_json::array();
-    for (const Function& function : worksheet_functions()) {
-        nlohmann::ordered_json parameters = nlohmann::ordered_json::array();
-        for (const Parameter& parameter : function.parameters) {
-            parameters.push_back({{"name", to_utf8(parameter.name)},
-                                  {"kind", kind_text(parameter.kind)},
-                                  {"optional", parameter.is_optional()}});
-            if (parameter.is_optional() && !parameter.default_value->is_missing())
-                parameters.back()["default"] = show_value(*parameter.default_value);
-        }
-        functions.push_back({{"name", to_utf8(function.name)},
-                             {"category", static_cast<std::int32_t>(function.category)},
-                             {"helpId", function.help_id},
-                             {"description", to_utf8(function.description)},
-                             {"parameters", std::move(parameters)},
-                             {"result", kind_text(function.result_kind())}});
-    }
-    return functions.dump(2) + "\n";
+    auto entries = nlohmann::ordered_json::array();
+    for (const Function& function : worksheet_functions()) entries.push_back(function_entry(function, true));
+    for (const Function& function : reserved_functions()) entries.push_back(function_entry(function, false));
+    return entries.dump(2) + "\n";
 }
 
 }  // namespace qor::cli

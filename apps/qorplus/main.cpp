@@ -66,8 +66,8 @@ void add_functions(CLI::App& app, Request& request) {
     functions->footer(
         "Examples:\n"
         "  qorplus functions                     a line each: name, parameters, description\n"
-        "  qorplus functions --json              the same for programs");
-    functions->add_flag("--json", request.as_json, "As a JSON list, with kinds, defaults and help ids");
+        "  qorplus functions --json              all there is to know of them, for programs");
+    functions->add_flag("--json", request.as_json, "As a JSON list, with kinds, defaults, help ids and examples");
     functions->callback([&request] { std::cout << (request.as_json ? list_functions_as_json() : list_functions()); });
 }
 

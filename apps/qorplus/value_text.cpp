@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::string_view text_prefix = "text:";
 constexpr std::string_view date_prefix = "date:";
+constexpr std::string_view omitted = "omitted";
 
 std::optional<double> parse_number(std::string_view text) {
     if (text.starts_with('+')) text.remove_prefix(1);
@@ -90,13 +91,23 @@ Variant parse_value(std::string_view text) {
     if (const auto number = parse_number(text)) return *number;
     if (text == "TRUE") return true;
     if (text == "FALSE") return false;
-    if (text == "omitted") return Missing{};
+    if (text == omitted) return Missing{};
     if (text.starts_with(date_prefix)) {
         if (const auto date = parse_date(text.substr(date_prefix.size()))) return *date;
         throw UsageError(fmt::format("{} is no date; write date:YYYY-MM-DD or date:YYYY-MM-DDTHH:MM:SS", text));
     }
     if (text.starts_with(text_prefix)) text.remove_prefix(text_prefix.size());
     return from_utf8(text);
+}
+
+std::string write_value(const Variant& value) {
+    if (value.is_missing()) return std::string(omitted);
+    std::string text = show_value(value);
+    if (value.is(Variant::Kind::date)) return text.insert(0, date_prefix);
+    const bool reads_as_itself =
+        !value.is(Variant::Kind::text) ||
+        (!text.starts_with(date_prefix) && !text.starts_with(text_prefix) && parse_value(text).is(Variant::Kind::text));
+    return reads_as_itself ? text : text.insert(0, text_prefix);
 }
 
 std::string show_value(const Variant& value) {

@@ -11,7 +11,10 @@ namespace qor::cli {
 // and whatever else as the text that it is. Raises UsageError for a date that is none.
 Variant parse_value(std::string_view text);
 
-// The value in the same notation, but texts and dates as they are. Numbers have as many digits as tell them from every
+// What parse_value reads as that value.
+std::string write_value(const Variant& value);
+
+// The value for a person: texts and dates as they are. Numbers have as many digits as tell them from every
 // other number. Empty for a value that is empty; in a rectangle a line is a row and a tab parts its cells.
 std::string show_value(const Variant& value);
 

@@ -70,14 +70,15 @@ void add_functions(std::vector<Row>& rows, std::span<const Function> functions) 
 }
 
 // The object's table of number words is loaded by the first call of NUMBERTOWORDS; HundredsTensUnits only reads it.
-void add_number_words(std::vector<Row>& rows) {
-    Row& row = *std::ranges::find(rows, u"NUMBERTOWORDS", &Row::name);
-    row.invoke = [compute = std::move(row.invoke)](CCom& self, Access access, std::span<Variant> arguments) {
+void share_number_words(std::vector<Row>& rows) {
+    Row& whole = *std::ranges::find(rows, u"NUMBERTOWORDS", &Row::name);
+    whole.invoke = [compute = std::move(whole.invoke)](CCom& self, Access access, std::span<Variant> arguments) {
         Variant words = compute(self, access, arguments);
         self.load_number_words();
         return words;
     };
-    rows.push_back(method<&CCom::HundredsTensUnits>(u"HundredsTensUnits", {u"TestValue", u"UseAnd"}));
+    Row& group = *std::ranges::find(rows, u"HundredsTensUnits", &Row::name);
+    group = method<&CCom::HundredsTensUnits>(group.name, group.parameters);
 }
 
 }  // namespace
@@ -90,7 +91,7 @@ const MemberTable<CCom>& CCom::members() {
         add_tools(rows);
         add_functions(rows, worksheet_functions());
         add_functions(rows, reserved_functions());
-        add_number_words(rows);
+        share_number_words(rows);
         return rows;
     }());
     return table;

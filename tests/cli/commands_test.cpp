@@ -21,6 +21,17 @@ struct Refusal {
     const char* told;
 };
 
+nlohmann::json function_table() {
+    return nlohmann::json::parse(run_program({"functions", "--json"}).output);
+}
+
+nlohmann::json entry_of(const char* name) {
+    static const auto table = function_table();
+    const auto entry = std::ranges::find_if(table, [&](const auto& one) { return one["name"] == name; });
+    REQUIRE(entry != table.end());
+    return *entry;
+}
+
 }  // namespace
 
 TEST_CASE("call prints a function's result") {
@@ -36,6 +47,9 @@ TEST_CASE("call prints a function's result") {
              Call{{"call", "ARA", "300000", "1"}, "300000"},
              Call{{"call", "ARA", "1", "0"}, "0"},
              Call{{"call", "ARA", "text:12", "3"}, "4"},
+             Call{{"call", "MACRS", "1", "1", "1", "5", "10000", "0", "1", "2", "1/1/2001", "", "12/31/2001"}, "0"},
+             Call{{"call", "sec179", "1000", "50", "2004", "2/3/1960", "1/1/2004", "12/31/2004", "2"}, "0"},
+             Call{{"call", "HundredsTensUnits", "121", "TRUE"}, "One Hundred and Twenty One "},
              Call{{"call", "ARA", "TRUE", "1"}, "-1"},
              Call{{"call", "ARA", "date:1900-01-01", "1"}, "2"},
              Call{{"call", "ARA", "date:1900-01-01T12:00:00", "1"}, "2.5"},
@@ -55,6 +69,7 @@ TEST_CASE("a request that is wrong is told in one line") {
              Refusal{{"call"}, "which function?"},
              Refusal{{"call", "NOPE"}, "no function NOPE"},
              Refusal{{"call", "ARA", "1"}, "dAst is missing"},
+             Refusal{{"call", "SEC179", "1"}, "dEEContribution is missing"},
              Refusal{{"call", "ARA", "omitted", "1"}, "dAR is missing"},
              Refusal{{"call", "ARA", "1", "2", "3", "4"}, "too many"},
              Refusal{{"call", "ARA", "apples", "2"}, "dAR must be a number, but apples is none"},
@@ -86,19 +101,55 @@ TEST_CASE("functions lists the table") {
     CHECK(lines.exit_code == 0);
     CHECK(lines.output.find("ARNS dBgAR dEdAR dNetSales [lDecPlace=4]") != lines.output.npos);
     CHECK(static_cast<std::size_t>(std::ranges::count(lines.output, '\n')) == worksheet_functions().size());
+}
 
-    const auto table = nlohmann::json::parse(run_program({"functions", "--json"}).output);
-    REQUIRE(table.size() == worksheet_functions().size());
-    for (std::size_t place = 0; place < table.size(); ++place)
+TEST_CASE("functions lists for programs all that there is to know") {
+    const auto table = function_table();
+    REQUIRE(table.size() == 206);
+    for (std::size_t place = 0; place < 203; ++place)
         CHECK(table[place]["name"] == to_utf8(worksheet_functions()[place].name));
-    const auto arns = std::ranges::find_if(table, [](const auto& entry) { return entry["name"] == "ARNS"; });
-    CHECK(*arns == nlohmann::json::parse(R"({
-        "name": "ARNS", "category": 1, "helpId": 100030, "result": "number",
-        "description": "Returns the Accounts Receivable to Net Sales Ratio.",
-        "parameters": [{"name": "dBgAR", "kind": "number", "optional": false},
-                       {"name": "dEdAR", "kind": "number", "optional": false},
-                       {"name": "dNetSales", "kind": "number", "optional": false},
-                       {"name": "lDecPlace", "kind": "whole number", "optional": true, "default": "4"}]})"));
+    CHECK(entry_of("ARNS") == nlohmann::json::parse(R"({
+        "name": "ARNS", "member": "ARNS", "registered": true, "category": 1, "categoryName": "Financial",
+        "helpId": 100030, "description": "Returns the Accounts Receivable to Net Sales Ratio.",
+        "parameters": [
+            {"name": "dBgAR", "kind": "number", "optional": false, "byReference": false},
+            {"name": "dEdAR", "kind": "number", "optional": false, "byReference": false},
+            {"name": "dNetSales", "kind": "number", "optional": false, "byReference": false},
+            {"name": "lDecPlace", "kind": "whole number", "optional": true, "byReference": false, "default": "4"}],
+        "result": "number",
+        "examples": [{"arguments": ["100", "300", "1000"], "result": "0.2"}]})"));
+    CHECK(entry_of("HundredsTensUnits") == nlohmann::json::parse(R"({
+        "name": "HundredsTensUnits", "member": "HundredsTensUnits", "registered": false,
+        "parameters": [
+            {"name": "TestValue", "kind": "whole number", "optional": false, "byReference": false},
+            {"name": "UseAnd", "kind": "boolean", "optional": true, "byReference": true}],
+        "result": "text",
+        "examples": [{"arguments": ["21"], "result": "Twenty One "},
+                     {"arguments": ["100", "TRUE"], "result": "One Hundred and "},
+                     {"arguments": ["0"], "result": ""}]})"));
+    CHECK(entry_of("DAR")["member"] == "dAR");
+    CHECK(entry_of("PB")["member"] == "pb");
+    CHECK(entry_of("EPS")["parameters"][2]["byReference"] == true);
+    CHECK(entry_of("EMONTHNAME")["parameters"][1]["default"] == "FALSE");
+    CHECK(entry_of("EMONTHNAME")["categoryName"] == "Date & Time");
+    CHECK(entry_of("EMONTHNAME")["examples"][0]["arguments"][0] == "date:2004-02-15");
+    CHECK(entry_of("EYEAR")["result"] == "value");
+    CHECK(entry_of("MACRS")["registered"] == false);
+    CHECK(entry_of("SEC179")["registered"] == false);
+}
+
+TEST_CASE("the listed examples are calls of the program") {
+    std::size_t examples = 0;
+    for (const auto& entry : function_table()) {
+        for (const auto& example : entry["examples"]) {
+            std::vector<std::string> words{"call", entry["name"]};
+            for (const std::string argument : example["arguments"]) words.push_back(argument);
+            CAPTURE(words);
+            CHECK(run_program(words).output == example["result"].get<std::string>() + "\n");
+            ++examples;
+        }
+    }
+    CHECK(examples >= 206);
 }
 
 TEST_CASE("every command has help with examples") {

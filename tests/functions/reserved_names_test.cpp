@@ -19,8 +19,8 @@ const Function& reserved(std::u16string_view name) {
 
 }  // namespace
 
-TEST_CASE("two names are reserved and no worksheet functions") {
-    REQUIRE(reserved_functions().size() == 2);
+TEST_CASE("three names are reserved and no worksheet functions") {
+    REQUIRE(reserved_functions().size() == 3);
     for (const Function& function : reserved_functions()) CHECK(find_function(function.name) == nullptr);
 }
 
@@ -30,7 +30,10 @@ TEST_CASE("reserved names have the parameters that callers know") {
                  u"vInService", u"vOutService", u"vFiscalYrEnd", u"vShortYrBeg", u"dDepRecMethSTYr", u"lDecPlace"}));
     CHECK((reserved(u"SEC179").parameter_names() ==
            Names{u"dTtlCov", u"dEEContribution", u"dYear", u"vBirthDate", u"vFromDate", u"vToDate", u"lDecPlace"}));
-    for (const Function& function : reserved_functions()) {
+    CHECK((reserved(u"HundredsTensUnits").parameter_names() == Names{u"TestValue", u"UseAnd"}));
+    CHECK(reserved(u"HundredsTensUnits").parameters[1].is_by_reference);
+    for (const std::u16string_view name : {u"MACRS", u"SEC179"}) {
+        const Function& function = reserved(name);
         for (const Parameter& parameter : function.parameters) {
             CAPTURE(to_utf8(parameter.name));
             const bool is_variant = parameter.name.front() == u'v';
@@ -45,7 +48,7 @@ TEST_CASE("reserved names have the parameters that callers know") {
     }
 }
 
-TEST_CASE("reserved names give 0 for any arguments") {
+TEST_CASE("names without a method give 0 for any arguments") {
     const auto gives_zero = [](std::u16string_view name, std::vector<Variant> arguments) {
         const Variant result = reserved(name).invoke(std::move(arguments));
         return result.is(Variant::Kind::double_float) && *result.get_if<double>() == 0;
@@ -55,4 +58,16 @@ TEST_CASE("reserved names give 0 for any arguments") {
     CHECK(gives_zero(u"MACRS", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14}));
     CHECK(gives_zero(u"SEC179", {1000, 50, 2004, u"2/3/1960", u"1/1/2004", u"12/31/2004"}));
     CHECK(gives_zero(u"SEC179", {1000, 50, 2004, Null{}, u"never", Empty{}, -1}));
+}
+
+TEST_CASE("the words of a number below a thousand are those of the table") {
+    const auto words = [](std::vector<Variant> arguments) {
+        return to_text(reserved(u"HundredsTensUnits").invoke(std::move(arguments)));
+    };
+    CHECK((words({999}) == u"Nine Hundred Ninety Nine "));
+    CHECK((words({20}) == u"Twenty "));
+    CHECK((words({105, true}) == u"One Hundred and Five "));
+    CHECK(words({0}).empty());
+    CHECK(words({5000}).empty());
+    CHECK(words({40000}).empty());
 }
