@@ -20,4 +20,9 @@ inline constexpr std::u16string_view version = u"2.6";
 inline constexpr ProductName name{company, title, version};
 inline constexpr std::string_view settings_file = "settings.ini";  // in the settings folder
 
+// Where users find the makers.
+inline constexpr std::u16string_view home_page = u"https://www.qorplus.example/";
+inline constexpr std::u16string_view support_page = u"https://www.qorplus.example/support";
+inline constexpr std::u16string_view author_mail = u"author@qorplus.example";
+
 }  // namespace qor::product
