@@ -27,7 +27,8 @@ prepare_packages() {
 build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev libfmt-dev
     libreoffice-calc libreoffice-dev librsvg2-bin optipng)
 run_packages=(libreoffice-gtk3 poppler-utils fonts-liberation)
-test_packages=(doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev clang-format clang-tidy procps)
+test_packages=(doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev clang-format clang-tidy procps
+    xvfb openbox xdotool)
 
 # Checkouts in other folders share what ccache keeps.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1

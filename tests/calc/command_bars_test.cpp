@@ -3,6 +3,7 @@
 #include <com/sun/star/util/URLTransformer.hpp>
 
 #include "hosts/calc/bars/bars.hpp"
+#include "hosts/calc/bars/office_faces.hpp"
 #include "hosts/calc/uno/running_command.hpp"
 #include "tests/calc/fixture.hpp"
 #include "tests/calc/office_loop.hpp"
@@ -163,7 +164,11 @@ TEST_CASE("what is added to the menu bar is shown at once in all windows, and no
             .get(names::Controls)
             .call(names::Add, named(names::Type, popup), named(names::Before, help_of(calc).get(names::Index)));
     top.put(names::Caption, u"&Shown");
-    top.get(names::Controls).call(names::Add, button).put(names::Caption, u"First ~ entry");
+    const Object inner = top.get(names::Controls).call(names::Add, popup);
+    inner.put(names::Caption, u"&Inner");
+    inner.get(names::Controls).call(names::Add, button).put(names::Caption, u"First ~ entry");
+    const Object guest = menu_bar(calc).get(names::Controls, u"Tools").get(names::Controls).call(names::Add, button);
+    guest.put(names::Caption, u"A guest");
     let_office_work();
     CHECK(!is_default(menu_bar_url));
     const auto content = bars()->ui().manager()->getSettings(to_uno(menu_bar_url), false);
@@ -174,6 +179,7 @@ TEST_CASE("what is added to the menu bar is shown at once in all windows, and no
         return property.Name == "Label" && property.Value == css::uno::Any(rtl::OUString("~Shown"));
     }));
 
+    guest.call(names::Delete);
     top.call(names::Delete);
     let_office_work();
     CHECK(bars()->ui().manager()->getSettings(to_uno(menu_bar_url), false)->getCount() == 11);
@@ -377,9 +383,20 @@ TEST_CASE("a face is pasted from the clipboard for faces") {
     const Calc calc;
     const Object bar = calc.application.get(names::CommandBars).call(names::Add, u"Faced");
     const Object control = bar.get(names::Controls).call(names::Add, button);
-    bars()->face_on_clipboard.clear();
+    bars()->face_on_clipboard = {};
     CHECK(error_of([&] { control.call(names::PasteFace); }) == 1004);
+    OfficeFaces faces(office_context());
+    CHECK(error_of([&] { faces.put(u"NO SUCH FACE"); }) == 326);
+    CHECK(error_of([&] { control.call(names::PasteFace); }) == 1004);
+    faces.put(u"CELCOL");
+    control.call(names::PasteFace);
+    let_office_work();
+    const Ref<css::ui::XImageManager> images(Ref{bars()->ui().manager()->getImageManager()});
+    const rtl::OUString command = to_uno(last_command());
+    constexpr sal_Int16 sizes[] = {0, 1, 2};
+    for (const auto size : sizes) CHECK(images->hasImage(size, command));
     bar.call(names::Delete);
+    for (const auto size : sizes) CHECK(!images->hasImage(size, command));
     let_office_work();
 }
 

@@ -14,7 +14,7 @@ class CommandBarButtonObject final : public CommandBarControl<CommandBarButtonOb
   private:
     void paste_face() {
         Control& button = own(u"PasteFace");
-        if (!bars().face_on_clipboard.is()) {
+        if (is_empty(bars().face_on_clipboard)) {
             throw Error(ErrorNumber::host_refused, {},
                         u"CommandBarButton.PasteFace: there is no face on the clipboard.");
         }

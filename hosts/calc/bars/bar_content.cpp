@@ -57,7 +57,7 @@ PropertyValues separator() {
 sal_Int16 style_of(const Control& control) {
     if (control.type == ControlType::popup) return style::TEXT | style::DROPDOWN_ONLY;
     if (control.type == ControlType::drop_down) return 0;
-    return control.face.is() ? style::ICON : style::TEXT;
+    return is_empty(control.face) ? style::TEXT : style::ICON;
 }
 
 PropertyValues described(BarKind kind, const Control& control, const Reference<XIndexAccess>& children) {
@@ -85,6 +85,45 @@ sal_Int32 place_before(const Ref<XIndexAccess>& content, Controls::const_iterato
     }
     return count;
 }
+
+// Only the outermost content makes containers for the entries of popups.
+struct Insertion {
+    const ModuleUi& ui;
+    Ref<css::lang::XSingleComponentFactory> factory;
+
+    void insert(BarKind kind, const Reference<XIndexContainer>& content, const Controls& controls) const {
+        const Ref items{content};
+        const Ref<XIndexAccess> present(items);
+        for (auto one = controls.begin(); one != controls.end(); ++one) {
+            const Control& control = **one;
+            if (control.built_in) {
+                insert_into(kind, present, control);
+                continue;
+            }
+            if (!control.visible) continue;
+            const Reference<XIndexAccess> children = control.type == ControlType::popup ? entries_of(control) : nullptr;
+            sal_Int32 place = place_before(present, one, controls.end());
+            if (control.begin_group && place > 0) items->insertByIndex(place++, css::uno::Any(separator()));
+            items->insertByIndex(place, css::uno::Any(described(kind, control, children)));
+        }
+    }
+
+  private:
+    void insert_into(BarKind kind, const Ref<XIndexAccess>& present, const Control& popup) const {
+        if (!contains_own(popup.children)) return;
+        for (sal_Int32 place = 0; place < present->getCount(); ++place) {
+            const Item item = item_at(present, place);
+            const Reference<XIndexContainer> children(item.children, css::uno::UNO_QUERY);
+            if (item.command == popup.command && children.is()) insert(kind, children, popup.children);
+        }
+    }
+
+    Reference<XIndexAccess> entries_of(const Control& popup) const {
+        const Reference<XIndexContainer> entries(factory->createInstanceWithContext(ui.context()), css::uno::UNO_QUERY);
+        insert(BarKind::menu_bar, entries, popup.children);
+        return {entries, css::uno::UNO_QUERY};
+    }
+};
 
 }  // namespace
 
@@ -127,32 +166,7 @@ void remove_own(const Reference<XIndexContainer>& content) {
 }
 
 void insert_own(const ModuleUi& ui, BarKind kind, const Reference<XIndexContainer>& content, const Controls& controls) {
-    const Ref items{content};
-    const Ref<XIndexAccess> present(items);
-    for (auto one = controls.begin(); one != controls.end(); ++one) {
-        const Control& control = **one;
-        if (control.built_in) {
-            if (!contains_own(control.children)) continue;
-            for (sal_Int32 place = 0; place < present->getCount(); ++place) {
-                const Item item = item_at(present, place);
-                const Reference<XIndexContainer> children(item.children, css::uno::UNO_QUERY);
-                if (item.command == control.command && children.is()) insert_own(ui, kind, children, control.children);
-            }
-            continue;
-        }
-        if (!control.visible) continue;
-        Reference<XIndexAccess> children;
-        if (control.type == ControlType::popup) {
-            const Ref<css::lang::XSingleComponentFactory> factory(items);
-            const Reference<XIndexContainer> entries(factory->createInstanceWithContext(ui.context()),
-                                                     css::uno::UNO_QUERY);
-            insert_own(ui, BarKind::menu_bar, entries, control.children);
-            children.set(entries, css::uno::UNO_QUERY);
-        }
-        sal_Int32 place = place_before(present, one, controls.end());
-        if (control.begin_group && place > 0) items->insertByIndex(place++, css::uno::Any(separator()));
-        items->insertByIndex(place, css::uno::Any(described(kind, control, children)));
-    }
+    Insertion{ui, Ref<css::lang::XSingleComponentFactory>(Ref{content})}.insert(kind, content, controls);
 }
 
 }  // namespace qor::calc

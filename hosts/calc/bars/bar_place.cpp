@@ -149,7 +149,9 @@ void BarPlace::resize(Size size) {
     if (size.Width > 0 && size.Height > 0) {
         write(sequence_of({named_value("Size", size)}));
         if (!docked_) {
-            in_all_windows([&](const Layout& layout) { layout->setElementSize(url_, size); });
+            in_all_windows([&](const Layout& layout) {
+                if (size.Height > layout->getElementSize(url_).Height) layout->setElementSize(url_, size);
+            });
         }
         read();
     }
@@ -238,7 +240,9 @@ void BarPlace::show_in(const Layout& layout) {
         layout->unlockWindow(url_);  // a locked one disappears when it is to float
         if (!layout->isElementFloating(url_)) layout->floatWindow(url_);
         if (place.X != nowhere) layout->setElementPos(url_, place);
-        if (wanted.Width > 0 && wanted.Height > 0) layout->setElementSize(url_, wanted);
+        // A bar of one line is as long as its controls; one of several lines was made so by the user.
+        const bool of_one_line = wanted.Width == 0 || wanted.Height <= layout->getElementSize(url_).Height;
+        if (!of_one_line) layout->setElementSize(url_, wanted);
     });
 }
 

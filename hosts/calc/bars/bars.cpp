@@ -117,7 +117,7 @@ void Bars::forget(const Controls& controls) {
     for (const ControlPointer& control : controls) {
         forget(control->children);
         control->deleted = true;
-        if (control->face.is()) ui_.remove_image(control->command);
+        if (!is_empty(control->face)) ui_.remove_image(control->command);
         if (control->type == ControlType::drop_down) deregister_list(ui_.context(), control->command);
         own_.erase(control->command);
     }

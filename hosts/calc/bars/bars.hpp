@@ -1,6 +1,5 @@
 #pragma once
 
-#include <com/sun/star/graphic/XGraphic.hpp>
 #include <functional>
 #include <map>
 #include <memory>
@@ -69,7 +68,7 @@ class Bars : public std::enable_shared_from_this<Bars> {
     void chosen(std::u16string_view command, std::int32_t item);
 
     // The face that was put on the clipboard last; empty before the first.
-    css::uno::Reference<css::graphic::XGraphic> face_on_clipboard;
+    ButtonFace face_on_clipboard;
 
     // A window has come into being.
     void enter(const Ref<css::frame::XFrame>& frame);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/graphic/XGraphic.hpp>
 #include <cstdint>
@@ -11,6 +12,12 @@ namespace qor::calc {
 
 // The numbers are those of macro authors.
 enum class ControlType : std::int32_t { button = 1, drop_down = 3, popup = 10 };
+
+// One picture for menus and small toolbars, one for large toolbars and one for very large ones; all empty for no face.
+using ButtonFace = std::array<com::sun::star::uno::Reference<com::sun::star::graphic::XGraphic>, 3>;
+inline bool is_empty(const ButtonFace& face) {
+    return !face.front().is();
+}
 
 struct Control;
 using ControlPointer = std::shared_ptr<Control>;
@@ -30,7 +37,7 @@ struct Control {
     bool begin_group = false;
     bool enabled = true;
     bool visible = true;
-    com::sun::star::uno::Reference<com::sun::star::graphic::XGraphic> face;
+    ButtonFace face;
 
     // Of a list; widths in pixels.
     std::vector<std::u16string> items;

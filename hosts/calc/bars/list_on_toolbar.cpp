@@ -7,6 +7,7 @@
 #include <com/sun/star/awt/WindowAttribute.hpp>
 #include <com/sun/star/awt/XListBox.hpp>
 #include <com/sun/star/container/XSet.hpp>
+#include <com/sun/star/frame/XStatusListener.hpp>
 #include <com/sun/star/frame/XToolbarController.hpp>
 #include <com/sun/star/frame/theToolbarControllerFactory.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
@@ -14,7 +15,7 @@
 #include <com/sun/star/lang/XSingleComponentFactory.hpp>
 #include <com/sun/star/util/XUpdatable.hpp>
 #include <cppuhelper/factory.hxx>
-#include <cppuhelper/implbase5.hxx>
+#include <cppuhelper/implbase6.hxx>
 
 #include "hosts/calc/bars/bars.hpp"
 #include "hosts/calc/uno/guarded.hpp"
@@ -34,8 +35,8 @@ constexpr std::int32_t usual_width = 120;  // pixels, of a list that was given n
 constexpr sal_Int16 lines_shown = 12;
 
 class ListController final
-    : public cppu::WeakImplHelper5<css::frame::XToolbarController, css::lang::XInitialization, css::util::XUpdatable,
-                                   css::lang::XComponent, css::awt::XItemListener>,
+    : public cppu::WeakImplHelper6<css::frame::XToolbarController, css::lang::XInitialization, css::util::XUpdatable,
+                                   css::lang::XComponent, css::frame::XStatusListener, css::awt::XItemListener>,
       public ListOnToolbar {
   public:
     explicit ListController(Reference<XComponentContext> context) : context_(std::move(context)) {}
@@ -59,6 +60,8 @@ class ListController final
     void SAL_CALL click() override {}
     void SAL_CALL doubleClick() override {}
     void SAL_CALL update() override {}
+    // The office takes nothing for a controller of a toolbar that does not listen for states.
+    void SAL_CALL statusChanged(const css::frame::FeatureStateEvent&) override {}
     void SAL_CALL dispose() override {
         if (bars_) bars_->detach(*this);
         bars_.reset();

@@ -4,6 +4,7 @@
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/frame/theUICommandDescription.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/ui/ImageType.hpp>
 #include <com/sun/star/ui/UIElementType.hpp>
 #include <com/sun/star/ui/theModuleUIConfigurationManagerSupplier.hpp>
 #include <com/sun/star/ui/theWindowStateConfiguration.hpp>
@@ -14,11 +15,11 @@
 namespace qor::calc {
 namespace {
 
-using Graphic = css::uno::Reference<css::graphic::XGraphic>;
 using rtl::OUString;
 
 constexpr char calc_module[] = "com.sun.star.sheet.SpreadsheetDocument";
-constexpr sal_Int16 image_sizes[] = {0, 1};  // for menus and small toolbars, for large toolbars
+namespace image = css::ui::ImageType;
+constexpr sal_Int16 image_sizes[] = {image::SIZE_DEFAULT, image::SIZE_LARGE, image::SIZE_32};  // as in ButtonFace
 
 std::u16string text_property(const PropertyValues& properties, const char* name) {
     for (const css::beans::PropertyValue& property : properties) {
@@ -94,14 +95,15 @@ void ModuleUi::set_content(const std::u16string& url,
     }
 }
 
-void ModuleUi::set_image(const std::u16string& command, const Graphic& face) const {
+void ModuleUi::set_image(const std::u16string& command, const ButtonFace& face) const {
     const Ref<css::ui::XImageManager> images(Ref{manager_->getImageManager()});
     const auto commands = sequence_of({to_uno(command)});
-    for (const sal_Int16 size : image_sizes) {
+    for (std::size_t place = 0; place < face.size(); ++place) {
+        const sal_Int16 size = image_sizes[place];
         if (images->hasImage(size, commands[0])) {
-            images->replaceImages(size, commands, sequence_of({face}));
+            images->replaceImages(size, commands, sequence_of({face[place]}));
         } else {
-            images->insertImages(size, commands, sequence_of({face}));
+            images->insertImages(size, commands, sequence_of({face[place]}));
         }
     }
 }

@@ -5,13 +5,13 @@
 #include <com/sun/star/container/XNameContainer.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
 #include <com/sun/star/frame/XLayoutManager.hpp>
-#include <com/sun/star/graphic/XGraphic.hpp>
 #include <com/sun/star/ui/XImageManager.hpp>
 #include <com/sun/star/ui/XUIConfigurationManager.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <string>
 #include <vector>
 
+#include "hosts/calc/bars/control.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
@@ -46,7 +46,7 @@ class ModuleUi {
     // What the menu bar or the toolbar holds in all windows from now on.
     void set_content(const std::u16string& url,
                      const css::uno::Reference<css::container::XIndexContainer>& content) const;
-    void set_image(const std::u16string& command, const css::uno::Reference<css::graphic::XGraphic>& face) const;
+    void set_image(const std::u16string& command, const ButtonFace& face) const;
     void remove_image(const std::u16string& command) const;
 
   private:

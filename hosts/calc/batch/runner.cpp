@@ -11,6 +11,9 @@
 #include <thread>
 #include <vector>
 
+#ifdef QOR_BATCH_ON_DISPLAY
+#include "hosts/calc/batch/virtual_display.hpp"
+#endif
 #include "hosts/calc/office/private_office.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
@@ -69,7 +72,13 @@ int main(int argc, char** argv) {
     int exit_code = failed_without_report;
     try {
         const std::vector<fs::path> components{QOR_BATCH_COMPONENTS, QOR_EXTENSION_COMPONENTS};
-        calc::PrivateOffice office(calc::office_program_folder(), components);
+#ifdef QOR_BATCH_ON_DISPLAY
+        const calc::VirtualDisplay display;
+        constexpr auto screen = calc::OfficeScreen::display;
+#else
+        constexpr auto screen = calc::OfficeScreen::none;
+#endif
+        calc::PrivateOffice office(calc::office_program_folder(), components, calc::Profile::fresh, {}, screen);
         give_up_when_late(report);
         exit_code = run_batch(office, report, {argv, static_cast<std::size_t>(argc)});
         print(report);

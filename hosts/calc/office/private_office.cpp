@@ -55,18 +55,20 @@ uno::Reference<uno::XComponentContext> client_context(const std::filesystem::pat
 
 OfficeStart start_options(const std::filesystem::path& program, const std::filesystem::path& folder,
                           std::span<const std::filesystem::path> component_lists, Profile profile,
-                          const OfficeFiles& files) {
+                          const OfficeFiles& files, OfficeScreen screen) {
     const std::string pipe_name = folder.filename();
     OfficeStart start;
     start.program = program;
     start.leftovers = {folder, office_socket(pipe_name)};
-    start.arguments = {"--headless",  "--norestore",          "--nologo",
-                       "--nodefault", "--nofirststartwizard", "--accept=pipe,name=" + pipe_name + ";urp;"};
+    start.arguments = {"--norestore", "--nologo", "--nodefault", "--nofirststartwizard",
+                       "--accept=pipe,name=" + pipe_name + ";urp;"};
+    if (screen == OfficeScreen::none) start.arguments.emplace_back("--headless");
     for (const auto& file : files.opened)
         start.locks.push_back(file.parent_path() / (".~lock." + file.filename().string() + "#"));
     for (const auto& file : files.written) start.leftovers.push_back(file.parent_path() / ("." + pipe_name));
     // Temporary files of a LibreOffice that is killed go with the rest.
-    start.environment = {"SAL_USE_VCLPLUGIN=svp", "TMPDIR=" + folder.string()};
+    const std::string drawn_by = screen == OfficeScreen::none ? "svp" : "gtk3";
+    start.environment = {"SAL_USE_VCLPLUGIN=" + drawn_by, "TMPDIR=" + folder.string()};
     if (profile == Profile::fresh) {
         const rtl::OUString profile_url = file_url(folder / "profile");
         start.lock_owner = utf8(profile_url);
@@ -94,14 +96,14 @@ rtl::OUString user_profile_url(const std::filesystem::path& program) {
 
 PrivateOffice::PrivateOffice(const std::filesystem::path& program,
                              std::span<const std::filesystem::path> component_lists, Profile profile,
-                             const OfficeFiles& files) {
+                             const OfficeFiles& files, OfficeScreen screen) {
     if (profile == Profile::of_user && is_listening(profile_socket(user_profile_url(program)))) {
         throw OfficeError("LibreOffice is running; close LibreOffice first");
     }
     // What is sent to an office that has ended must fail by itself, not end this process.
     std::signal(SIGPIPE, SIG_IGN);
     folder_ = make_private_folder();
-    process_.emplace(start_options(program, folder_, component_lists, profile, files));
+    process_.emplace(start_options(program, folder_, component_lists, profile, files, screen));
     client_context(program);
     connect(folder_.filename());
 }

@@ -17,19 +17,26 @@ enum class Profile {
     of_user,  // the user's own, which only one LibreOffice at a time can hold
 };
 
+// Where LibreOffice shows its windows.
+enum class OfficeScreen {
+    none,
+    display,  // the one of this process, drawn by GTK
+};
+
 // The files that LibreOffice is to work on. It may be killed at any moment; nothing of its own stays beside them.
 struct OfficeFiles {
     std::vector<std::filesystem::path> opened;
     std::vector<std::filesystem::path> written;  // through a folder of the name hidden_folder_name(), beside the file
 };
 
-// A LibreOffice without a window, started for this object and ended with it. Only one thread may use it.
+// A LibreOffice started for this object and ended with it. Only one thread may use it.
 class PrivateOffice {
   public:
     // `component_lists` are .components files whose services LibreOffice offers beside its own.
     // Raises OfficeError when LibreOffice does not start and answer, or when the user's profile is in use.
     PrivateOffice(const std::filesystem::path& program, std::span<const std::filesystem::path> component_lists,
-                  Profile profile = Profile::fresh, const OfficeFiles& files = {});
+                  Profile profile = Profile::fresh, const OfficeFiles& files = {},
+                  OfficeScreen screen = OfficeScreen::none);
     PrivateOffice(const PrivateOffice&) = delete;
     PrivateOffice& operator=(const PrivateOffice&) = delete;
     ~PrivateOffice();
