@@ -12,4 +12,7 @@ void register_recalculation(const Context& context);
 // The Worksheet Summary of a sheet of 200,000 used cells, by the tool and by the walk from cell to cell.
 void register_worksheet_summary(const Context& context);
 
+// Cells read, written and coloured through the adapter, beside the office's own interfaces.
+void register_cells(const Context& context);
+
 }  // namespace qor::bench

@@ -9,6 +9,8 @@
 #include <cppuhelper/implbase1.hxx>
 #include <memory>
 
+#include "hosts/calc/uno/guarded.hpp"
+
 namespace qor::calc {
 namespace {
 
@@ -24,7 +26,8 @@ class EmptyAgain final : public cppu::WeakImplHelper1<css::document::XUndoAction
         namespace flag = css::sheet::CellFlags;
         // A change that is recorded now would destroy the step that is being undone.
         manager_->lock();
-        const std::shared_ptr<void> unlock(nullptr, [this](void*) { manager_->unlock(); });
+        const std::shared_ptr<void> unlock(nullptr,
+                                           [this](void*) { attempt([&] { guarded([&] { manager_->unlock(); }); }); });
         cells_->clearContents(flag::VALUE | flag::DATETIME | flag::STRING | flag::FORMULA);
     }
     // The office writes the cells again itself.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 
 #include "hosts/calc/formula/notation.hpp"
@@ -36,17 +38,23 @@ std::u16string_view code_of(NumberKind kind) {
     return u"General";
 }
 
+void apply_to_unformatted(const Sheet& sheet, const Cells& cells, NumberKind kind) {
+    const std::int32_t key = number_format_key(sheet.book, code_of(kind));
+    const Ref<css::container::XIndexAccess> looks(
+        Ref{Ref<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges()});
+    for (sal_Int32 i = 0, count = looks->getCount(); i < count; ++i) {
+        const Ref<css::uno::XInterface> places(looks->getByIndex(i));
+        if (get_property<sal_Int32>(places, "NumberFormat") == general) set_property(places, "NumberFormat", key);
+    }
+}
+
 // Sets the format in a run of cells. A date and money leave alone what has a format already.
 void apply(const Sheet& sheet, const Rectangle& run, NumberKind kind) {
     const Cells cells = cells_at(sheet, run);
     const bool keeps_formats = kind == NumberKind::date || kind == NumberKind::currency;
     if (keeps_formats) {
         const auto state = Ref<css::beans::XPropertyState>(cells)->getPropertyState("NumberFormat");
-        if (state == css::beans::PropertyState_AMBIGUOUS_VALUE) {
-            for (std::int32_t row = run.top; row <= run.bottom; ++row)
-                apply(sheet, {run.left, row, run.left, row}, kind);
-            return;
-        }
+        if (state == css::beans::PropertyState_AMBIGUOUS_VALUE) return apply_to_unformatted(sheet, cells, kind);
         if (get_property<sal_Int32>(cells, "NumberFormat") != general) return;
     }
     set_property(cells, "NumberFormat", number_format_key(sheet.book, code_of(kind)));
@@ -100,30 +108,34 @@ std::u16string number_format_code(const Book& book, std::int32_t key) {
     return in_notation_of_excel(view_of(code));
 }
 
-void apply_number_kinds(const Sheet& sheet, const Rectangle& area, const std::vector<NumberKind>& kinds) {
-    const auto width = static_cast<std::size_t>(area.width());
-    for (const KindOfCells& before : number_kinds(sheet, cells_at(sheet, area))) {
+std::vector<KindRun> number_kind_changes(const Sheet& sheet, const Cells& cells, const std::vector<NumberKind>& kinds) {
+    std::vector<KindRun> changes;
+    for (const KindOfCells& before : number_kinds(sheet, cells)) {
         if (before.kind != NumberKind::boolean) continue;
         for (const css::table::CellRangeAddress& at : before.places) {
-            const Rectangle run{at.StartColumn, at.StartRow, at.EndColumn, at.EndRow};
-            set_property(cells_at(sheet, run), "NumberFormat", general);
+            changes.push_back({{at.StartColumn, at.StartRow, at.EndColumn, at.EndRow}, NumberKind::plain});
         }
     }
+    if (std::ranges::all_of(kinds, [](NumberKind kind) { return kind == NumberKind::plain; })) return changes;
+    const Rectangle area = rectangle_of(cells);
+    const auto width = static_cast<std::size_t>(area.width());
     for (std::size_t column = 0; column < width; ++column) {
         for (std::size_t row = 0, count = kinds.size() / width; row < count;) {
             const NumberKind kind = kinds[row * width + column];
             std::size_t end = row + 1;
             while (end < count && kinds[end * width + column] == kind) ++end;
             const auto left = area.left + static_cast<std::int32_t>(column);
-            if (kind != NumberKind::plain) {
-                apply(sheet,
-                      {left, area.top + static_cast<std::int32_t>(row), left,
-                       area.top + static_cast<std::int32_t>(end) - 1},
-                      kind);
-            }
+            const auto top = area.top + static_cast<std::int32_t>(row);
+            const auto bottom = area.top + static_cast<std::int32_t>(end) - 1;
+            if (kind != NumberKind::plain) changes.push_back({{left, top, left, bottom}, kind});
             row = end;
         }
     }
+    return changes;
+}
+
+void apply_number_kinds(const Sheet& sheet, const std::vector<KindRun>& changes) {
+    for (const KindRun& change : changes) apply(sheet, change.cells, change.kind);
 }
 
 }  // namespace qor::calc

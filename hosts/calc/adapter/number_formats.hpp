@@ -9,8 +9,16 @@ std::int32_t number_format_key(const Book& book, std::u16string_view code);
 // The format of that key in Excel's notation.
 std::u16string number_format_code(const Book& book, std::int32_t key);
 
-// Sees to it that the numbers just written show as what they are: a date or money where the cell has no format yet, a
-// Boolean always. A cell that showed Booleans goes back to no format when it holds something else now.
-void apply_number_kinds(const Sheet& sheet, const Rectangle& area, const std::vector<NumberKind>& kinds);
+// A run of cells whose numbers have to show as this kind.
+struct KindRun {
+    Rectangle cells;
+    NumberKind kind;
+};
+
+// What has to be done so that numbers written into the area, row by row of these kinds, show as what they are: a date
+// or money where the cell has no format yet, a Boolean always. A cell that shows Booleans goes back to no format when
+// it gets something else.
+std::vector<KindRun> number_kind_changes(const Sheet& sheet, const Cells& cells, const std::vector<NumberKind>& kinds);
+void apply_number_kinds(const Sheet& sheet, const std::vector<KindRun>& changes);
 
 }  // namespace qor::calc

@@ -10,8 +10,9 @@ namespace {
 
 UndoStep* open_step = nullptr;  // the office's main thread is the only one that changes documents
 
-Ref<css::document::XUndoManager> undo_manager(const Document& document) {
-    return Ref<css::document::XUndoManager>(Ref{Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager()});
+// Where it fails, the workbook was closed in between and its undo list went with it.
+bool leave(const Ref<css::document::XUndoManager>& manager) {
+    return attempt([&] { guarded([&] { manager->leaveUndoContext(); }); }) == 0;
 }
 
 }  // namespace
@@ -23,16 +24,20 @@ UndoStep::UndoStep(std::u16string title) : title_(std::move(title)), outermost_(
 UndoStep::~UndoStep() {
     if (!outermost_) return;
     open_step = nullptr;
-    for (const Document& document : entered_) {
-        // Where it fails, the workbook was closed in between and its undo list went with it.
-        attempt([&] { guarded([&] { undo_manager(document)->leaveUndoContext(); }); });
+    for (const Entered& entered : entered_) {
+        // A step that stays open would swallow all that comes, so one failure is not believed.
+        if (!leave(entered.manager)) leave(entered.manager);
     }
 }
 
 void UndoStep::note_change(const Document& document) {
-    if (!open_step || std::ranges::find(open_step->entered_, document) != open_step->entered_.end()) return;
-    undo_manager(document)->enterUndoContext(to_uno(open_step->title_));
-    open_step->entered_.push_back(document);
+    if (!open_step) return;
+    auto& entered = open_step->entered_;
+    if (std::ranges::find(entered, document, &Entered::document) != entered.end()) return;
+    const Ref<css::document::XUndoManager> manager{
+        Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager()};
+    manager->enterUndoContext(to_uno(open_step->title_));
+    entered.push_back({document, manager});
 }
 
 }  // namespace qor::calc

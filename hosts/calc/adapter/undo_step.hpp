@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/document/XUndoManager.hpp>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,11 @@ class UndoStep {
   private:
     std::u16string title_;
     bool outermost_;
-    std::vector<Document> entered_;
+    struct Entered {
+        Document document;
+        Ref<css::document::XUndoManager> manager;
+    };
+    std::vector<Entered> entered_;
 };
 
 }  // namespace qor::calc

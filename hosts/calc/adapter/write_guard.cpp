@@ -4,14 +4,13 @@
 #include <com/sun/star/beans/XPropertyState.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
-#include <com/sun/star/sheet/XCellRangeFormula.hpp>
-#include <com/sun/star/sheet/XSheetCellCursor.hpp>
-#include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
+#include <tuple>
 
-#include "hosts/calc/adapter/cell_query.hpp"
+#include "hosts/calc/adapter/array_places.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
+#include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
@@ -34,30 +33,31 @@ bool has_locked_cell(const Cells& cells) {
            get_property<css::util::CellProtection>(cells, "CellProtection").IsLocked;
 }
 
+// The cells along the edges of a range: an array that reaches out of it has to lie in one of them.
+std::vector<Rectangle> edges(const Rectangle& area) {
+    std::vector<Rectangle> result;
+    if (area.top > 0) result.push_back({area.left, area.top, area.right, area.top});
+    if (area.left > 0) result.push_back({area.left, area.top, area.left, area.bottom});
+    if (area.bottom < row_limit - 1) result.push_back({area.left, area.bottom, area.right, area.bottom});
+    if (area.right < column_limit - 1) result.push_back({area.right, area.top, area.right, area.bottom});
+    std::ranges::sort(result, {}, [](const Rectangle& edge) { return std::tuple(edge.left, edge.top, edge.right); });
+    const auto same = std::ranges::unique(result);
+    result.erase(same.begin(), same.end());
+    return result;
+}
+
 // Whether an array formula lies partly in the cells and partly outside.
 bool cuts_array(const Sheet& sheet, const Cells& cells) {
     const Rectangle area = rectangle_of(cells);
-    std::vector<Rectangle> known;
-    for (const css::table::CellRangeAddress& at : formula_places(cells)) {
-        const Cells run = cells_at(sheet, {at.StartColumn, at.StartRow, at.EndColumn, at.EndRow});
-        const auto texts = Ref<css::sheet::XCellRangeFormula>(run)->getFormulaArray();
-        for (sal_Int32 row = 0; row < texts.getLength(); ++row) {
-            for (sal_Int32 column = 0; column < texts[row].getLength(); ++column) {
-                if (!view_of(texts[row][column]).starts_with(u'{')) continue;
-                const Rectangle cell{at.StartColumn + column, at.StartRow + row, at.StartColumn + column,
-                                     at.StartRow + row};
-                const auto holds_cell = [&](const Rectangle& array) { return array.contains(cell); };
-                if (std::ranges::any_of(known, holds_cell)) continue;
-                const css::uno::Reference<css::sheet::XSheetCellRange> start(cells_at(sheet, cell).reference(),
-                                                                             css::uno::UNO_QUERY);
-                const Ref cursor{sheet.sheet->createCursorByRange(start)};
-                cursor->collapseToCurrentArray();
-                known.push_back(rectangle_of(Cells(cursor)));
-                if (!area.contains(known.back())) return true;
-            }
-        }
+    if (area.cells() == 1) {
+        if (Ref<css::sheet::XArrayFormulaRange>(cells)->getArrayFormula().isEmpty()) return false;
+        return array_places(sheet, cells).front() != area;
     }
-    return false;
+    const std::vector<Rectangle> along = edges(area);
+    return std::ranges::any_of(along, [&](const Rectangle& edge) {
+        return std::ranges::any_of(array_places(sheet, cells_at(sheet, edge)),
+                                   [&](const Rectangle& array) { return !area.contains(array); });
+    });
 }
 
 }  // namespace

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <com/sun/star/uno/Any.hxx>
+#include <com/sun/star/uno/Sequence.hxx>
+
+#include "hosts/calc/adapter/cell_query.hpp"
+
+namespace qor::calc {
+
+// What cells hold and the formats of their numbers, kept to put it back when a change fails halfway. Text that looks
+// different in its parts comes back plain.
+class ContentsBefore {
+  public:
+    ContentsBefore(const Sheet& sheet, const Cells& cells);
+
+    void put_back() const;
+
+  private:
+    struct Format {
+        Ref<css::uno::XInterface> cells;
+        sal_Int32 key;
+    };
+    struct ArrayFormula {
+        Rectangle place;
+        rtl::OUString text;
+    };
+
+    void keep_formulas();
+    void keep_formats();
+    void put_back_formulas() const;
+
+    Sheet sheet_;
+    Cells cells_;
+    css::uno::Sequence<css::uno::Sequence<css::uno::Any>> data_;
+    css::uno::Sequence<css::uno::Sequence<rtl::OUString>> texts_;  // empty when there is no formula
+    CellPlaces formulas_;
+    std::vector<ArrayFormula> arrays_;
+    std::vector<Format> formats_;
+};
+
+}  // namespace qor::calc
