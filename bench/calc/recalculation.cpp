@@ -43,7 +43,7 @@ void fill_column(const calc::Document& document, const char* formula) {
 }
 
 void recalculate(benchmark::State& state, const Context& context, const char* formula) {
-    const Object application = calc::make_application(context);
+    const Object application = calc::make_application(context, nullptr);
     const Object book = book_with_numbers(application);
     const calc::Document document = calc::Host(context).documents().back();
     fill_column(document, formula);

@@ -20,7 +20,8 @@ namespace {
 class Workload {
   public:
     Workload(const Context& context, std::int32_t rows)
-        : application(calc::make_application(context)), book_(application.get(names::Workbooks).call(names::Add)) {
+        : application(calc::make_application(context, nullptr)),
+          book_(application.get(names::Workbooks).call(names::Add)) {
         const std::int32_t half = rows / 2;
         const Object sheet = book_.get(names::Worksheets, 1);
         const auto block = [&](std::int32_t first, std::int32_t last) {

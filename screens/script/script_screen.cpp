@@ -17,35 +17,11 @@ namespace {
 
 using nlohmann::json;
 
-struct AnswerText {
-    MessageAnswer answer;
-    const char* text;
-};
-constexpr AnswerText ok{MessageAnswer::ok, "OK"};
-constexpr AnswerText cancel{MessageAnswer::cancel, "Cancel"};
-constexpr AnswerText abort_{MessageAnswer::abort, "Abort"};
-constexpr AnswerText retry{MessageAnswer::retry, "Retry"};
-constexpr AnswerText ignore{MessageAnswer::ignore, "Ignore"};
-constexpr AnswerText yes{MessageAnswer::yes, "Yes"};
-constexpr AnswerText no{MessageAnswer::no, "No"};
+// In the order of MessageAnswer.
+constexpr std::array answer_texts{"OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
 
-// The buttons of a message, from the left.
-std::vector<AnswerText> offered_by(MessageButtons buttons) {
-    switch (buttons) {
-        case MessageButtons::ok:
-            return {ok};
-        case MessageButtons::ok_cancel:
-            return {ok, cancel};
-        case MessageButtons::abort_retry_ignore:
-            return {abort_, retry, ignore};
-        case MessageButtons::yes_no_cancel:
-            return {yes, no, cancel};
-        case MessageButtons::yes_no:
-            return {yes, no};
-        case MessageButtons::retry_cancel:
-            return {retry, cancel};
-    }
-    return {ok};
+const char* text_of(MessageAnswer answer) {
+    return answer_texts.at(static_cast<std::size_t>(answer));
 }
 
 constexpr std::array icon_names{"none", "critical", "question", "exclamation", "information"};
@@ -128,27 +104,26 @@ void ScriptScreen::progress(Form&, std::int32_t done, std::int32_t total) {
 }
 
 MessageAnswer ScriptScreen::message_box(const MessageBox& message) {
-    const auto offered = offered_by(message.buttons);
+    const std::vector<MessageAnswer> offered = answers_of(message.buttons);
     json texts = json::array();
-    for (const AnswerText& button : offered) texts.push_back(button.text);
+    for (const MessageAnswer answer : offered) texts.push_back(text_of(answer));
 
-    AnswerText answer = offered[std::min<std::size_t>(message.default_button, offered.size() - 1)];
+    MessageAnswer answer = default_answer(message);
     const std::size_t place = messages_.size();
     if (place < answers_.size()) {
-        const auto chosen =
-            std::ranges::find(offered, answers_[place], [](const AnswerText& button) { return json(button.text); });
-        if (chosen == offered.end()) {
+        const auto chosen = std::ranges::find(texts, answers_[place]);
+        if (chosen == texts.end()) {
             throw ScriptError(fmt::format("the message \"{}\" offers {}, but the script answers {}",
                                           to_utf8(message.text), texts.dump(), answers_[place].dump()));
         }
-        answer = *chosen;
+        answer = offered[static_cast<std::size_t>(chosen - texts.begin())];
     }
     messages_.push_back({{"title", to_utf8(message.title)},
                          {"text", to_utf8(message.text)},
                          {"icon", icon_names.at(static_cast<std::size_t>(message.icon))},
                          {"buttons", std::move(texts)},
-                         {"answer", answer.text}});
-    return answer.answer;
+                         {"answer", text_of(answer)}});
+    return answer;
 }
 
 std::optional<std::u16string> ScriptScreen::pick_file(Form*, FileDialog&) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
 
 #include "screens/script/script_error.hpp"
 #include "ui/screen.hpp"

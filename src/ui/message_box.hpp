@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace qor {
 
@@ -16,5 +17,9 @@ struct MessageBox {
     MessageButtons buttons = MessageButtons::ok;
     std::uint8_t default_button = 0;  // place among the buttons, from the left, from 0
 };
+
+// What the buttons answer, from the left.
+std::vector<MessageAnswer> answers_of(MessageButtons buttons);
+MessageAnswer default_answer(const MessageBox& message);
 
 }  // namespace qor

@@ -63,8 +63,40 @@ com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& office_c
     return context;
 }
 
+namespace {
+
+template <class Answer>
+std::optional<Answer> next(std::vector<Answer>& answers) {
+    if (answers.empty()) return {};
+    Answer first = std::move(answers.front());
+    answers.erase(answers.begin());
+    return first;
+}
+
+}  // namespace
+
+MessageAnswer ToldUser::message_box(const MessageBox& message) {
+    messages.push_back(message);
+    return next(answers).value_or(default_answer(message));
+}
+
+std::optional<std::u16string> ToldUser::file_to_save(FileDialog& dialog) {
+    file_questions.push_back(dialog);
+    return next(files);
+}
+
+std::optional<std::u16string> ToldUser::range(const RangeQuestion& question) {
+    range_questions.push_back(question);
+    return next(ranges);
+}
+
+bool ToldUser::show_page(const std::u16string& address) {
+    pages.push_back(address);
+    return shows_pages;
+}
+
 Calc::Calc()
-    : application(make_application(office_context())),
+    : application(make_application(office_context(), user, u"/usr/share/companion")),
       folder_(std::filesystem::temp_directory_path() / ("qorplus-calc-tests-" + std::to_string(::getpid()))) {
     std::filesystem::create_directories(folder_);
 }

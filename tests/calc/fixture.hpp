@@ -7,6 +7,7 @@
 
 #include "automation/member_names.hpp"
 #include "automation/variant.hpp"
+#include "hosts/calc/adapter/host_user.hpp"
 
 namespace qor {
 
@@ -22,13 +23,34 @@ namespace qor::calc::tests {
 // The office that the test cases run in.
 com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& office_context();
 
+// Answers as it was told, each answer once, and keeps what it was asked. Where it was told nothing, a message takes its
+// default and the rest is cancelled.
+class ToldUser final : public HostUser {
+  public:
+    std::vector<MessageAnswer> answers;
+    std::vector<std::u16string> files;
+    std::vector<std::u16string> ranges;
+    bool shows_pages = true;
+
+    std::vector<MessageBox> messages;
+    std::vector<FileDialog> file_questions;
+    std::vector<RangeQuestion> range_questions;
+    std::vector<std::u16string> pages;
+
+    MessageAnswer message_box(const MessageBox& message) override;
+    std::optional<std::u16string> file_to_save(FileDialog& dialog) override;
+    std::optional<std::u16string> range(const RangeQuestion& question) override;
+    bool show_page(const std::u16string& address) override;
+};
+
 // An Application; its workbooks are closed without saving at the end.
 class Calc {
   public:
     Calc();
     ~Calc();
 
-    Object application;
+    const std::shared_ptr<ToldUser> user = std::make_shared<ToldUser>();
+    const Object application;
 
     // A new workbook with one sheet.
     Object add_book() const;

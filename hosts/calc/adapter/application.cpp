@@ -3,31 +3,16 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <com/sun/star/configuration/theDefaultProvider.hpp>
-#include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/sheet/XCalculatable.hpp>
 
 #include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/configuration.hpp"
 #include "hosts/calc/adapter/convert_formula.hpp"
 #include "hosts/calc/adapter/objects.hpp"
-#include "hosts/calc/uno/property.hpp"
-#include "hosts/calc/uno/sequence.hpp"
-#include "hosts/calc/uno/service.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
 namespace {
-
-Variant configured(const css::uno::Reference<css::uno::XComponentContext>& context, std::u16string_view node,
-                   const char* name) {
-    const Ref provider{css::configuration::theDefaultProvider::get(context)};
-    const Ref<css::container::XNameAccess> access(Ref{provider->createInstanceWithArguments(
-        "com.sun.star.configuration.ConfigurationAccess",
-        sequence_of<css::uno::Any>({css::uno::Any(named_value("nodepath", to_uno(node)))}))});
-    rtl::OUString text;
-    access->getByName(rtl::OUString::createFromAscii(name)) >>= text;
-    return from_uno(text);
-}
 
 class ApplicationObject final : public CalcObject<ApplicationObject> {
   public:
@@ -84,11 +69,9 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
 
     // The name in the user's profile, else the one of the login.
     std::u16string user_name() {
-        const auto part = [&](const char* name) {
-            return to_text(configured(host_->context(), u"/org.openoffice.UserProfile/Data", name));
-        };
-        const std::u16string given = part("givenname");
-        const std::u16string family = part("sn");
+        const Configuration user(host_->context(), u"/org.openoffice.UserProfile/Data");
+        const std::u16string given = user.text("givenname");
+        const std::u16string family = user.text("sn");
         if (!given.empty() && !family.empty()) return given + u" " + family;
         if (!given.empty() || !family.empty()) return given + family;
         const passwd* account = ::getpwuid(::geteuid());
@@ -96,11 +79,9 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
     }
 
     std::u16string version() {
-        return to_text(configured(host_->context(), u"/org.openoffice.Setup/Product", "ooSetupVersion"));
+        return Configuration(host_->context(), u"/org.openoffice.Setup/Product").text("ooSetupVersion");
     }
-    std::u16string name() {
-        return to_text(configured(host_->context(), u"/org.openoffice.Setup/Product", "ooName")) + u" Calc";
-    }
+    std::u16string name() { return host_->name(); }
 
     void help(const Variant& file, const Variant&) {
         throw Error(ErrorNumber::host_refused, {},
@@ -167,8 +148,11 @@ Object make_application(HostPointer host) {
     return make_object<ApplicationObject>(std::move(host));
 }
 
-Object make_application(const css::uno::Reference<css::uno::XComponentContext>& context) {
-    return guarded([&] { return make_application(std::make_shared<Host>(context)); });
+Object make_application(const css::uno::Reference<css::uno::XComponentContext>& context, std::shared_ptr<HostUser> user,
+                        std::u16string companion_folder) {
+    return guarded([&] {
+        return make_application(std::make_shared<Host>(context, std::move(user), std::move(companion_folder)));
+    });
 }
 
 }  // namespace qor::calc

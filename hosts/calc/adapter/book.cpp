@@ -7,24 +7,12 @@
 #include <com/sun/star/frame/XTitle.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
-#include <osl/file.hxx>
 
+#include "hosts/calc/adapter/file_paths.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
-
-std::u16string path_of_address(std::u16string_view address) {
-    rtl::OUString path;
-    const auto outcome = osl::FileBase::getSystemPathFromFileURL(to_uno(address), path);
-    return outcome == osl::FileBase::E_None ? from_uno(path) : std::u16string(address);
-}
-
-std::u16string address_of_path(std::u16string_view path) {
-    rtl::OUString address;
-    const auto outcome = osl::FileBase::getFileURLFromSystemPath(to_uno(path), address);
-    return outcome == osl::FileBase::E_None ? from_uno(address) : std::u16string(path);
-}
 
 std::u16string Book::file_path() const {
     const rtl::OUString address = model()->getURL();
@@ -33,7 +21,7 @@ std::u16string Book::file_path() const {
 
 std::u16string Book::name() const {
     const std::u16string path = file_path();
-    if (!path.empty()) return path.substr(path.rfind(u'/') + 1);
+    if (!path.empty()) return file_name_of(path);
     return from_uno(Ref<css::frame::XTitle>(document)->getTitle());
 }
 

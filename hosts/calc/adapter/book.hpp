@@ -43,8 +43,4 @@ Book book_named(const HostPointer& host, std::u16string_view name);
 // The workbook that the user works in; raises 1004 when there is none.
 Book active_book(const HostPointer& host);
 
-// The system's path of a file's address and the reverse; an address that is no file's stays as it is.
-std::u16string path_of_address(std::u16string_view address);
-std::u16string address_of_path(std::u16string_view path);
-
 }  // namespace qor::calc

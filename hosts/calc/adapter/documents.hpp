@@ -1,17 +1,16 @@
 #pragma once
 
 #include "hosts/calc/adapter/book.hpp"
-#include "hosts/calc/adapter/file_formats.hpp"
 
 namespace qor::calc {
 
 Book add_book(const HostPointer& host);
-// A workbook that is open already is only brought to the front. Raises 1004 naming the file when it is missing or
-// cannot be read.
+// A new workbook made after that file. Raises as open_book does.
+Book add_book_after(const HostPointer& host, const std::u16string& path);
+// A workbook that is open already is only brought to the front. Raises 1004 naming the file when it is missing, cannot
+// be read, or has the name of another workbook that is open.
 Book open_book(const HostPointer& host, const std::u16string& path, bool read_only);
-// Both raise 1004 naming the file when it cannot be written.
-void save_book(const Book& book);
-void save_book_as(const Book& book, const std::u16string& path, std::optional<std::int32_t> format_number);
+// Without a question: what was not saved is lost.
 void close_book(const Book& book);
 
 }  // namespace qor::calc

@@ -11,11 +11,12 @@ struct FileFormat {
     std::int32_t number;
     const char* filter;
     const char* options;  // of the filter; empty when it takes none
+    bool first_sheet_only = false;
 };
 
 // Null when there is none.
 const FileFormat* format_of_number(std::int32_t number);
 const FileFormat* format_of_path(std::u16string_view path);
-const FileFormat* format_of_filter(std::u16string_view filter);
+const FileFormat* format_of_filter(std::u16string_view filter, std::u16string_view options);
 
 }  // namespace qor::calc

@@ -5,12 +5,26 @@
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 
+#include "hosts/calc/adapter/configuration.hpp"
 #include "hosts/calc/adapter/function_names.hpp"
 
 namespace qor::calc {
 
-Host::Host(css::uno::Reference<css::uno::XComponentContext> context)
-    : context_(std::move(context)), desktop_(css::frame::Desktop::create(context_)) {}
+Host::Host(css::uno::Reference<css::uno::XComponentContext> context, std::shared_ptr<HostUser> user,
+           std::u16string companion_folder)
+    : context_(std::move(context)),
+      user_(std::move(user)),
+      companion_folder_(std::move(companion_folder)),
+      desktop_(css::frame::Desktop::create(context_)) {}
+
+HostUser& Host::user() const {
+    if (!user_) throw Error(ErrorNumber::host_refused);
+    return *user_;
+}
+
+std::u16string Host::name() const {
+    return Configuration(context_, u"/org.openoffice.Setup/Product").text("ooName") + u" Calc";
+}
 
 std::vector<Document> Host::documents() const {
     std::vector<Document> result;

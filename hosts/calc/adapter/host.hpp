@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "hosts/calc/adapter/host_user.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
@@ -18,10 +19,17 @@ using Document = Ref<css::sheet::XSpreadsheetDocument>;
 // What the objects of one Application share.
 class Host : public std::enable_shared_from_this<Host> {
   public:
-    explicit Host(css::uno::Reference<css::uno::XComponentContext> context);
+    // The companion's folder is where the data files lie. Without a user every question is refused.
+    explicit Host(css::uno::Reference<css::uno::XComponentContext> context, std::shared_ptr<HostUser> user = {},
+                  std::u16string companion_folder = {});
 
     const css::uno::Reference<css::uno::XComponentContext>& context() const noexcept { return context_; }
     const Ref<css::frame::XDesktop2>& desktop() const noexcept { return desktop_; }
+
+    HostUser& user() const;
+    const std::u16string& companion_folder() const noexcept { return companion_folder_; }
+    // What the office is called.
+    std::u16string name() const;
 
     // The open workbooks in the order of their opening, hidden ones too.
     std::vector<Document> documents() const;
@@ -40,6 +48,8 @@ class Host : public std::enable_shared_from_this<Host> {
 
   private:
     css::uno::Reference<css::uno::XComponentContext> context_;
+    std::shared_ptr<HostUser> user_;
+    std::u16string companion_folder_;
     Ref<css::frame::XDesktop2> desktop_;
     Document last_active_;  // the office itself knows none when it runs without a screen
     std::optional<FormulaTranslator> translator_;

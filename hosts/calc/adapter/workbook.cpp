@@ -4,7 +4,7 @@
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/documents.hpp"
 #include "hosts/calc/adapter/objects.hpp"
-#include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/adapter/saving.hpp"
 
 namespace qor::calc {
 namespace {
@@ -32,15 +32,7 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
         return path.substr(0, path.empty() ? 0 : path.rfind(u'/'));
     }
 
-    std::int32_t file_format() {
-        constexpr std::int32_t new_workbook = 51;
-        for (const auto& argument : book_.model()->getArgs()) {
-            if (argument.Name != "FilterName") continue;
-            const auto filter = value_of<rtl::OUString>(argument.Value);
-            if (const FileFormat* format = format_of_filter(view_of(filter))) return format->number;
-        }
-        return new_workbook;
-    }
+    std::int32_t format() { return file_format(book_); }
 
     bool read_only() { return Ref<css::frame::XStorable>(book_.document)->isReadonly(); }
 
@@ -59,18 +51,21 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
 
     void activate() { book_.host->activate(book_.document); }
 
-    void close(std::optional<bool> save_changes, std::optional<std::u16string> path) {
-        if (save_changes.value_or(false) && !saved()) {
+    void close(std::optional<bool> save_changes, const std::optional<std::u16string>& path) {
+        if (!save_changes) {
+            if (!ask_before_closing(book_)) return;
+        } else if (*save_changes && !saved()) {
             if (path) {
                 save_book_as(book_, *path, {});
-            } else {
-                save_book(book_);
+            } else if (!save_or_ask_where(book_)) {
+                return;
             }
         }
         close_book(book_);
     }
     void save() { save_book(book_); }
     void save_as(const std::u16string& path, std::optional<std::int32_t> format) { save_book_as(book_, path, format); }
+    void save_copy_as(const std::u16string& path) { save_book_copy(book_, path); }
 
     Object application() { return make_application(book_.host); }
 
@@ -84,7 +79,7 @@ const MemberTable<WorkbookObject>& WorkbookObject::members() {
         property<&W::active_sheet>(u"ActiveSheet"),
         property<&W::application>(u"Application"),
         method<&W::close>(u"Close", {u"SaveChanges", u"Filename"}),
-        property<&W::file_format>(u"FileFormat"),
+        property<&W::format>(u"FileFormat"),
         property<&W::full_name>(u"FullName"),
         property<&W::name>(u"Name"),
         property<&W::application>(u"Parent"),
@@ -92,6 +87,7 @@ const MemberTable<WorkbookObject>& WorkbookObject::members() {
         property<&W::read_only>(u"ReadOnly"),
         method<&W::save>(u"Save"),
         method<&W::save_as>(u"SaveAs", {u"Filename", u"FileFormat"}),
+        method<&W::save_copy_as>(u"SaveCopyAs", {u"Filename"}),
         property<&W::saved, &W::set_saved>(u"Saved"),
         property<&W::worksheets>(u"Sheets", {u"Index"}),
         property<&W::windows>(u"Windows", {u"Index"}),

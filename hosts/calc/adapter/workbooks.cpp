@@ -28,7 +28,18 @@ class WorkbooksObject final : public CalcObject<WorkbooksObject> {
         return make_workbook({host_, element_at(open, to_long(index))});
     }
 
-    Object add(const Variant&) { return make_workbook(add_book(host_)); }
+    // A number asks for a workbook with one sheet of that kind. There are worksheets only.
+    Object add(const Variant& after) {
+        constexpr std::int32_t worksheet = -4167;
+        if (after.get_if<std::u16string>()) return make_workbook(add_book_after(host_, to_text(after)));
+        if (!after.is_missing() && to_long(after) != worksheet) throw Error(ErrorNumber::host_refused);
+        return make_workbook(add_book(host_));
+    }
+
+    // Each workbook asks for itself; one that the user does not let go stays open.
+    void close() {
+        for (const Variant& workbook : elements()) workbook.call(names::Close);
+    }
 
     Object open(const std::u16string& path, const Variant&, std::optional<bool> read_only) {
         return make_workbook(open_book(host_, path, read_only.value_or(false)));
@@ -44,6 +55,7 @@ const MemberTable<WorkbooksObject>& WorkbooksObject::members() {
     static const MemberTable<W> table({
         method<&W::add>(u"Add", {u"Template"}),
         property<&W::application>(u"Application"),
+        method<&W::close>(u"Close"),
         property<&W::count>(u"Count"),
         property<&W::item>(u"Item", {u"Index"}),
         method<&W::open>(u"Open", {u"Filename", u"UpdateLinks", u"ReadOnly"}),

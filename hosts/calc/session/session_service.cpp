@@ -10,6 +10,7 @@
 #include "hosts/calc/adapter/application.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/session/open_documents.hpp"
+#include "hosts/calc/session/scripted_user.hpp"
 #include "hosts/calc/uno/main_thread.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
@@ -37,9 +38,13 @@ std::string told(const Error& error) {
     return text + ")";
 }
 
-SessionHost session_host(const uno::Reference<uno::XComponentContext>& context) {
+SessionHost session_host(const uno::Reference<uno::XComponentContext>& context, const SessionFolders& folders) {
     return {
-        .application = make_application(context),
+        .make_application =
+            [context, &folders](ScriptScreen& screen, const std::filesystem::path& data_folder) {
+                return make_application(context, std::make_shared<ScriptedUser>(screen, folders.current),
+                                        from_utf8(data_folder.native()));
+            },
         .undo_step =
             [](std::u16string_view title, const std::function<void()>& command) {
                 const UndoStep step{std::u16string(title)};
@@ -99,7 +104,7 @@ class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XSer
         const SessionFolders folders{.current = text_in(arguments, "Folder"),
                                      .temporary = text_in(arguments, "TemporaryFolder"),
                                      .hidden_name = text_in(arguments, "HiddenName")};
-        return qor::play(json::parse(text_in(arguments, "Script")), session_host(context_), folders);
+        return qor::play(json::parse(text_in(arguments, "Script")), session_host(context_, folders), folders);
     }
 
     uno::Reference<uno::XComponentContext> context_;

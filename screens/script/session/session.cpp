@@ -13,7 +13,6 @@
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 #include "screens/script/script_error.hpp"
-#include "screens/script/script_screen.hpp"
 #include "screens/script/session/json_value.hpp"
 #include "screens/script/session/range_text.hpp"
 #include "screens/script/session/replaced_file.hpp"
@@ -42,10 +41,12 @@ class Session {
           folders_(folders),
           user_(script.value("user", false)),
           settings_(settings_path()),
+          data_(data_path()),
+          application_(host.make_application(screen_, data_)),
           open_before_(workbooks()) {
         set_environment({screen_, settings_});
         com_ = make_object<CCom>();
-        com_.put(MemberName(u"QThisWrkBkPath"), from_utf8(data_path().native()));
+        com_.put(MemberName(u"QThisWrkBkPath"), from_utf8(data_.native()));
         write_settings();
     }
     Session(const Session&) = delete;
@@ -117,7 +118,7 @@ class Session {
         }
     }
 
-    std::vector<Variant> workbooks() const { return host_.application.get(names::Workbooks).object().items(); }
+    std::vector<Variant> workbooks() const { return application_.get(names::Workbooks).object().items(); }
     bool was_open_before(const Variant& workbook) const {
         return std::ranges::any_of(open_before_,
                                    [&](const Variant& before) { return before.object().is(workbook.object()); });
@@ -128,7 +129,7 @@ class Session {
         const auto path = path_of(file.get<std::string>(), folders_.current);
         if (!std::filesystem::exists(path)) throw ScriptError("there is no file " + path.string());
         try {
-            host_.application.get(names::Workbooks).call(names::Open, from_utf8(path.native()));
+            application_.get(names::Workbooks).call(names::Open, from_utf8(path.native()));
         } catch (const Error& error) {
             throw ScriptError(fmt::format("{} cannot be opened: {}", path.string(), to_utf8(error.description())));
         }
@@ -138,7 +139,7 @@ class Session {
         require_keys(step, {"select"}, where);
         const json& what = step["select"];
         require_keys(what, {"workbook", "sheets", "range"}, where + "'s \"select\"");
-        const Object workbook = find_workbook(host_.application, what.value("workbook", "active"));
+        const Object workbook = find_workbook(application_, what.value("workbook", "active"));
         workbook.call(names::Activate);
         std::string done = name_of(workbook);
         bool replace = true;
@@ -186,7 +187,7 @@ class Session {
     std::vector<Variant> arguments_of(const Member<CCom>& member, const json& given) const {
         std::vector<Variant> arguments;
         if (!member.parameters.empty() && member.parameters.front() == application_parameter)
-            arguments.emplace_back(host_.application);
+            arguments.emplace_back(application_);
         const std::size_t most = member.parameters.size() - arguments.size();
         if (given.size() > most) {
             throw ScriptError(fmt::format("{} takes at most {} arguments, but {} are given", to_utf8(member.name), most,
@@ -200,7 +201,7 @@ class Session {
         require_keys(step, {"read"}, where);
         const json& what = step["read"];
         require_keys(what, {"workbook", "sheet", "range"}, where + "'s \"read\"");
-        const Object workbook = find_workbook(host_.application, what.value("workbook", "active"));
+        const Object workbook = find_workbook(application_, what.value("workbook", "active"));
         const Object sheet =
             what.contains("sheet") ? find_sheet(workbook, what["sheet"]) : workbook.get(names::ActiveSheet).object();
         const Object range = what.contains("range") ? find_range(sheet, required_text(what, "range", where))
@@ -210,7 +211,7 @@ class Session {
 
     json save(const json& step, const std::string& where) {
         require_keys(step, {"save", "as"}, where);
-        const Object workbook = find_workbook(host_.application, required_text(step, "save", where));
+        const Object workbook = find_workbook(application_, required_text(step, "save", where));
         if (!step.contains("as")) {
             if (to_text(workbook.get(names::Path)).empty())
                 throw ScriptError(name_of(workbook) + " has no file yet; say \"as\" where it shall be saved");
@@ -237,6 +238,8 @@ class Session {
     bool user_;
     IniSettingsStore settings_;
     ScriptScreen screen_;
+    std::filesystem::path data_;
+    Object application_;
     std::vector<Variant> open_before_;
     Object com_;
 };

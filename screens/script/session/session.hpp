@@ -6,12 +6,14 @@
 #include <string_view>
 
 #include "automation/object.hpp"
+#include "screens/script/script_screen.hpp"
 
 namespace qor {
 
 // What a session asks of its host beside the object model.
 struct SessionHost {
-    Object application;
+    // The host's application, with a user who does what the screen's script says; the data files lie in the folder.
+    std::function<Object(ScriptScreen& screen, const std::filesystem::path& data_folder)> make_application;
     // Runs a command so that the user can undo it as one step with that title.
     std::function<void(std::u16string_view title, const std::function<void()>& command)> undo_step;
     // Called when the file of an open workbook has got another place.
