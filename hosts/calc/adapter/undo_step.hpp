@@ -5,11 +5,13 @@
 #include <vector>
 
 #include "hosts/calc/adapter/host.hpp"
+#include "hosts/calc/uno/running_command.hpp"
 
 namespace qor::calc {
 
 // While it lives, all changes that go through the adapter are one step of undo under one title, in each workbook that
-// is changed. A workbook without a change gets no step. A step begun within another one belongs to that one.
+// is changed. A workbook without a change gets no step. A step begun within another one belongs to that one. No event
+// of the host begins another command meanwhile.
 class UndoStep {
   public:
     explicit UndoStep(std::u16string title);
@@ -21,6 +23,7 @@ class UndoStep {
     static void note_change(const Document& document);
 
   private:
+    RunningCommand command_;
     std::u16string title_;
     bool outermost_;
     struct Entered {
