@@ -75,7 +75,7 @@ void VirtualDisplay::start_server() {
         server_ = ::fork();
         if (server_ == 0) {
             ::dup2(writer.number(), number_channel);
-            run_program("Xvfb", "-displayfd", "3", "-screen", "0", "1280x800x24", "-nolisten", "tcp");
+            run_program("Xvfb", "-displayfd", "3", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset");
         }
     }
     ::setenv("DISPLAY", (":" + read_number(reader.number())).c_str(), 1);

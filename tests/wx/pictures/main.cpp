@@ -1,0 +1,122 @@
+// Writes a picture of every form into the folder that is its argument, as FORM.png.
+#define DOCTEST_CONFIG_IMPLEMENT  // the fakes check what they are asked for
+#include <doctest/doctest.h>
+#include <wx/dialog.h>
+
+#include <chrono>
+#include <filesystem>
+#include <iostream>
+#include <thread>
+
+#include "reports/frmWKSum.hpp"
+#include "screens/wx/text.hpp"
+#include "services/frmComplete.hpp"
+#include "tests/reports/report_host.hpp"
+#include "tests/window/display.hpp"
+#include "tests/window/hand.hpp"
+#include "tests/wx/every_kind.hpp"
+#include "tests/wx/user.hpp"
+
+namespace qor::wx {
+const Layouts& test_layouts();
+}
+
+namespace {
+
+using namespace qor;
+using namespace qor::tests;
+
+class Album {
+  public:
+    explicit Album(std::filesystem::path folder) : folder_(std::move(folder)) {
+        wx::Layouts layouts = wx::product_layouts();
+        layouts.insert(wx::test_layouts().begin(), wx::test_layouts().end());
+        screen_.emplace(NativeWindow(), std::move(layouts));
+        set_environment({*screen_, host_.settings});
+        host_.add_sheet(u"Inputs", 1.0, u"1");
+        host_.add_sheet(u"Loan", 1.0, u"1");
+        host_.add_sheet(u"Ratios", 1.0, u"1");
+        host_.start();
+    }
+
+    WxScreen& screen() { return *screen_; }
+
+    void take(
+        Form& form, const std::function<void(User&)>& prepare = [](User&) {}) {
+        show(form, *screen_, [&](User& user) {
+            prepare(user);
+            take_now(form, user);
+        });
+    }
+
+    void take_now(const Form& form, User& user) const {
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));  // buttons fade in
+        user.on_screen([&] { keep(form); });
+    }
+
+    // As it is to be seen now.
+    void keep(const Form& form) const {
+        for (const wxWindow* top : wxTopLevelWindows) {
+            const auto* dialog = dynamic_cast<const wxDialog*>(top);
+            if (!dialog || !dialog->IsShown() || dialog->GetTitle() != wx::to_wx(form.caption())) continue;
+            const wxRect area = dialog->GetScreenRect();
+            hand::take_picture(area.x, area.y, area.width, area.height, folder_ / (to_utf8(form.name()) + ".png"));
+        }
+    }
+
+  private:
+    std::filesystem::path folder_;
+    fakes::ReportHost host_;
+    std::optional<WxScreen> screen_;
+};
+
+void take_worksheet_summary(Album& album) {
+    frmWKSum form;
+    form.AppTitle = u"QOR Plus: Worksheet Summary";
+    album.take(form, [&](User& user) {
+        user.on_screen([&] {
+            TreeView& tree = form.ctlTreeView.treQOR;
+            tree.find(u"model.xls")->set_expanded(true);
+            Pointer box = *tree.picture_point(*tree.find(u"model.xls*Loan"));
+            tree.move_pointer(box);
+            box.button = MouseButton::left;
+            tree.press_pointer(box);
+            tree.release_pointer(box);
+        });
+    });
+}
+
+void take_complete(Album& album) {
+    frmComplete form;
+    form.show(nullptr);
+    form.Feedback(u"Working on worksheet Ratios");
+    for (int done = 1; done <= 42; ++done) {
+        form.Percent(done, 100);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    album.keep(form);
+    form.unload();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "form_pictures FOLDER\n";
+        return 2;
+    }
+    doctest::Context fakes(argc, argv);
+    fakes.setAsDefaultForAssertsOutOfTestCases();
+    try {
+        use_virtual_display();
+        Album album{argv[1]};
+        take_worksheet_summary(album);
+        take_complete(album);
+        frmEveryKind every_kind(album.screen());
+        album.take(every_kind);
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
