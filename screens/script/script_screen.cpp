@@ -123,6 +123,7 @@ MessageAnswer ScriptScreen::message_box(const MessageBox& message) {
                          {"icon", icon_names.at(static_cast<std::size_t>(message.icon))},
                          {"buttons", std::move(texts)},
                          {"answer", text_of(answer)}});
+    if (message.help_id != 0) messages_.back()["helpId"] = message.help_id;
     return answer;
 }
 

@@ -1,101 +1,26 @@
 #include "core/CCom.hpp"
 
-#include <algorithm>
-
 #include "automation/member_names.hpp"
 #include "core/CReg.hpp"
 #include "core/MMain.hpp"
+#include "core/boolean_option.hpp"
+#include "core/frmAbout.hpp"
+#include "core/frmOptions.hpp"
 #include "core/product.hpp"
-#include "core/tool_launch.hpp"
+#include "core/reactions.hpp"
+#include "core/text_option.hpp"
 #include "functions/registration.hpp"
-#include "functions/registry.hpp"
-#include "runtime/bind.hpp"
+#include "runtime/conversion.hpp"
+#include "runtime/trim.hpp"
 #include "services/CDrive.hpp"
 
 namespace qor {
 namespace {
 
-using Row = Member<CCom>;
-
-void add_state(std::vector<Row>& rows) {
-    rows.insert(rows.end(), {
-                                field_property<&CCom::QCurrentTab>(u"QCurrentTab", OnError::pass),
-                                field_property<&CCom::QExcelVer>(u"QExcelVer", OnError::pass),
-                                field_property<&CCom::QHelpFile>(u"QHelpFile", OnError::pass),
-                                field_property<&CCom::QHelpFileId>(u"QHelpFileId", OnError::pass),
-                                field_property<&CCom::QThisWrkBkPath>(u"QThisWrkBkPath", OnError::pass),
-                                field_property<&CCom::QWorksheetName>(u"QWorksheetName", OnError::pass),
-                                field_property<&CCom::QTargetAddress>(u"QTargetAddress", OnError::pass),
-                                field_property<&CCom::QDoSelectionChange>(u"QDoSelectionChange", OnError::pass),
-                            });
-}
-
-void add_plain_members(std::vector<Row>& rows) {
-    rows.insert(rows.end(),
-                {
-                    property<&CCom::QTitle>(u"QTitle", {}, OnError::pass),
-                    property<&CCom::QCompany>(u"QCompany", {}, OnError::pass),
-                    property<&CCom::QMajor>(u"QMajor", {}, OnError::pass),
-                    property<&CCom::QMinor>(u"QMinor", {}, OnError::pass),
-                    method<&CCom::QGetSetting>(u"QGetSetting", {u"sSection", u"sKey", u"sDefault"}, OnError::pass),
-                    method<&CCom::QSaveSetting>(u"QSaveSetting", {u"sSection", u"sKey", u"sSetting"}, OnError::pass),
-                    method<&CCom::QOpenHelp>(u"QOpenHelp", {u"objoleEx"}, OnError::pass),
-                    method<&CCom::QSetCurrDir>(u"QSetCurrDir", {u"sSetCurrDir"}, OnError::pass),
-                    method<&CCom::QSetupFunc>(u"QSetupFunc", {u"objoleEx"}, OnError::pass),
-                });
-}
-
-void add_tools(std::vector<Row>& rows) {
-    for (const Tool& tool : tools()) {
-        rows.push_back({.name = tool.member,
-                        .accesses = accesses::callable,
-                        .parameters = {u"objoleEx"},
-                        .invoke = [&tool](CCom& self, Access, std::span<Variant> arguments) -> Variant {
-                            launch(tool, argument<Object>(arguments, 0), self.QHelpFile);
-                            return {};
-                        },
-                        .on_error = OnError::raise});
-    }
-}
-
-void add_functions(std::vector<Row>& rows, std::span<const Function> functions) {
-    for (const Function& function : functions) {
-        rows.push_back({.name = function.member,
-                        .accesses = accesses::callable,
-                        .parameters = function.parameter_names(),
-                        .invoke = [&function](CCom&, Access, std::span<Variant> arguments) {
-                            return function.invoke(arguments);
-                        }});
-    }
-}
-
-// The object's table of number words is loaded by the first call of NUMBERTOWORDS; HundredsTensUnits only reads it.
-void share_number_words(std::vector<Row>& rows) {
-    Row& whole = *std::ranges::find(rows, u"NUMBERTOWORDS", &Row::name);
-    whole.invoke = [compute = std::move(whole.invoke)](CCom& self, Access access, std::span<Variant> arguments) {
-        Variant words = compute(self, access, arguments);
-        self.load_number_words();
-        return words;
-    };
-    Row& group = *std::ranges::find(rows, u"HundredsTensUnits", &Row::name);
-    group = method<&CCom::HundredsTensUnits>(group.name, group.parameters);
-}
+constexpr std::int32_t options_help_id = 170125;
+constexpr std::int32_t alternate_template_help_id = 170010;
 
 }  // namespace
-
-const MemberTable<CCom>& CCom::members() {
-    static const MemberTable<CCom> table([] {
-        std::vector<Row> rows;
-        add_state(rows);
-        add_plain_members(rows);
-        add_tools(rows);
-        add_functions(rows, worksheet_functions());
-        add_functions(rows, reserved_functions());
-        share_number_words(rows);
-        return rows;
-    }());
-    return table;
-}
 
 CCom::CCom() {
     attempt([&] { QDoSelectionChange = to_boolean(QGetSetting(u"Options", u"chkT4ViewCellCommentsUponEntry", u"0")); });
@@ -141,6 +66,70 @@ void CCom::QSetCurrDir(const std::u16string& sSetCurrDir) {
 void CCom::QSetupFunc(const Object& objoleEx) {
     gExcel = objoleEx;
     attempt([&] { setup_functions(gExcel, QHelpFile); });
+    gExcel = Object();
+}
+
+void CCom::QAbout() {
+    frmAbout form;
+    form.AppTitle = QTitle() + u" (Excel Add-in)";
+    form.show_modal();
+}
+
+void CCom::show_options(std::int32_t tab) {
+    frmOptions form;
+    form.GetCurrentTab = tab;
+    form.HelpFile = QHelpFile;
+    form.HelpFileId = options_help_id;
+    form.AppTitle = QTitle() + u": Options";
+    form.show_modal();
+    QDoSelectionChange = boolean_option(u"chkT4ViewCellCommentsUponEntry", u"0");
+}
+
+void CCom::UTOpt(const Object& objoleEx) {
+    gExcel = objoleEx;
+    show_options(QCurrentTab);
+    gExcel = Object();
+}
+
+void CCom::UTAltTem(const Object& objoleEx) {
+    constexpr std::int32_t workbook_tab = 1;
+    gExcel = objoleEx;
+    if (!boolean_option(u"chkT2AlternateTemplate", u"0")) {
+        environment().screen.message_box({.title = QTitle(),
+                                          .text = u"The alternate template is not enabled.  You may enable this "
+                                                  u"function in the options dialog box.",
+                                          .icon = MessageIcon::information,
+                                          .help_file = QHelpFile,
+                                          .help_id = alternate_template_help_id});
+        show_options(workbook_tab);
+    } else if (const std::u16string file = text_option(u"txtT2AlternateTemplateFile"); !file.empty()) {
+        gExcel.get(names::Workbooks).call(names::Add, file);
+    }
+    gExcel = Object();
+}
+
+void CCom::QAlwCreBacBefSav(const Object& objoleEx, const std::optional<std::u16string>& sWorkbookName) {
+    gExcel = objoleEx;
+    // Where it ends early, the next command overwrites gExcel.
+    if (qor::QAlwCreBacBefSav(sWorkbookName)) gExcel = Object();
+}
+
+void CCom::QSheetSelectionChange(const Object& objoleEx, const std::u16string& sTargetWorksheet,
+                                 const std::u16string& sTargetCell) {
+    gExcel = objoleEx;
+    const auto show_comment = [](const std::u16string& sheet, const std::u16string& cell, bool visible) {
+        attempt([&] {
+            gExcel.get(names::Worksheets, sheet)
+                .get(names::Range, cell)
+                .get(names::Comment)
+                .put(names::Visible, visible);
+        });
+    };
+    if (QDoSelectionChange) {
+        show_comment(sTargetWorksheet, sTargetCell, true);
+        if (!trim(QWorksheetName).empty() && !trim(QTargetAddress).empty())
+            show_comment(QWorksheetName, QTargetAddress, false);
+    }
     gExcel = Object();
 }
 

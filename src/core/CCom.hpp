@@ -43,12 +43,21 @@ class CCom final : public Dispatch {
     void QOpenHelp(const Object& objoleEx);
     void QSetCurrDir(const std::u16string& sSetCurrDir);
     void QSetupFunc(const Object& objoleEx);
+    void QAbout();
+    void UTOpt(const Object& objoleEx);
+    void UTAltTem(const Object& objoleEx);
+    void QAlwCreBacBefSav(const Object& objoleEx, const std::optional<std::u16string>& sWorkbookName);
+    // Shows the comment of the cell that is now selected, and hides that of the one before, which the companion tells.
+    void QSheetSelectionChange(const Object& objoleEx, const std::u16string& sTargetWorksheet,
+                               const std::u16string& sTargetCell);
 
     // The words of a number below 1000. Raises 9 for a number above 0 until NUMBERTOWORDS has been called once.
     std::u16string HundredsTensUnits(std::int16_t TestValue, std::optional<bool>& UseAnd) const;
     void load_number_words() noexcept { words_ = number_words(); }
 
   private:
+    void show_options(std::int32_t tab);
+
     NumberWords words_;
 };
 

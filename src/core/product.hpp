@@ -14,6 +14,12 @@ inline constexpr std::int32_t major_version = 2;
 inline constexpr std::int32_t minor_version = 6;
 inline constexpr std::int32_t revision = 5;
 
+inline constexpr std::u16string_view legal_notice =
+    u"Copyright (c) 2026 The QOR Plus developers. This program is free software under the MIT licence: you may use, "
+    u"copy, change and pass it on as long as this notice goes with it. It comes as it is, without warranty of any "
+    u"kind, and its authors are "
+    u"not liable for what comes of its use.";
+
 // Major and minor: each pair has settings of its own.
 inline constexpr std::u16string_view version = u"2.6";
 

@@ -17,16 +17,17 @@ void show_form(const Tool& tool, const std::u16string& help_file) {
 
 }  // namespace
 
+bool require_active_workbook() {
+    if (gExcel.get(names::ActiveWorkbook).object()) return true;
+    environment().screen.message_box({.title = std::u16string(product::title),
+                                      .text = u"Sorry, but you must have an active workbook to perform this operation.",
+                                      .icon = MessageIcon::information});
+    return false;
+}
+
 void launch(const Tool& tool, const Object& application, const std::u16string& help_file) {
     gExcel = application;
-    if (tool.needs_active_workbook && !gExcel.get(names::ActiveWorkbook).object()) {
-        environment().screen.message_box(
-            {.title = std::u16string(product::title),
-             .text = u"Sorry, but you must have an active workbook to perform this operation.",
-             .icon = MessageIcon::information});
-    } else {
-        show_form(tool, help_file);
-    }
+    if (!tool.needs_active_workbook || require_active_workbook()) show_form(tool, help_file);
     gExcel = Object();
 }
 

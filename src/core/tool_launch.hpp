@@ -6,6 +6,9 @@
 
 namespace qor {
 
+// Whether there is an active workbook; where not, says that one is needed.
+bool require_active_workbook();
+
 // What every tool does when it starts: keeps the host's Application for the duration, asks for an active workbook,
 // shows the tool's form and waits for its end. An error leaves gExcel set; the next command overwrites it.
 void launch(const Tool& tool, const Object& application, const std::u16string& help_file);

@@ -15,6 +15,8 @@ struct MessageBox {
     std::u16string text;
     MessageIcon icon = MessageIcon::none;
     MessageButtons buttons = MessageButtons::ok;
+    std::u16string help_file = {};
+    std::int32_t help_id = 0;         // 0: there is no help
     std::uint8_t default_button = 0;  // place among the buttons, from the left, from 0
 };
 

@@ -12,29 +12,11 @@
 #include "core/tool_table.hpp"
 #include "functions/registry.hpp"
 #include "screens/script/script_screen.hpp"
+#include "tests/fakes/memory_settings.hpp"
 
 using namespace qor;
 
 namespace {
-
-class MemoryStore final : public SettingsStore {
-  public:
-    using Key = std::pair<std::u16string, std::u16string>;
-    std::map<Key, std::u16string> values;
-
-    std::optional<std::u16string> read(std::u16string_view section, std::u16string_view name) const override {
-        const auto found = values.find(Key(section, name));
-        return found == values.end() ? std::nullopt : std::optional(found->second);
-    }
-    bool write(std::u16string_view section, std::u16string_view name, std::u16string_view value) override {
-        values[Key(section, name)] = value;
-        return true;
-    }
-    bool erase(std::u16string_view section, std::u16string_view name) override {
-        return values.erase(Key(section, name)) > 0;
-    }
-    bool erase_section(std::u16string_view) override { return false; }
-};
 
 // An Application of which a test says what each access does.
 class ScriptedApplication final : public Dispatch {
@@ -53,7 +35,7 @@ class ScriptedApplication final : public Dispatch {
 
 struct Installation {
     ScriptScreen screen;
-    MemoryStore settings;
+    fakes::MemorySettings settings;
 
     Installation() { set_environment({screen, settings}); }
 
@@ -112,7 +94,7 @@ TEST_CASE("whether comments show upon entry is read from the settings at creatio
     Installation installation;
     const auto at_creation = [] { return *make_object<CCom>().get(QDoSelectionChange).get_if<bool>(); };
     CHECK_FALSE(at_creation());
-    const MemoryStore::Key option(u"Options", u"chkT4ViewCellCommentsUponEntry");
+    const fakes::MemorySettings::Key option(u"Options", u"chkT4ViewCellCommentsUponEntry");
     installation.settings.values[option] = u"-1";
     CHECK(at_creation());
     installation.settings.values[option] = u"0";

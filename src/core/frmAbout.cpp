@@ -1,0 +1,23 @@
+#include "core/frmAbout.hpp"
+
+#include "core/product.hpp"
+#include "platform/text.hpp"
+
+namespace qor {
+
+frmAbout::frmAbout() : ToolForm(u"frmAbout") {
+    cmdOK.on_click = [this] { unload(); };
+}
+
+void frmAbout::on_load() {
+    lblTitle.set_text(AppTitle);
+    lblVersion.set_text(u"Version: " + std::u16string(product::version) + u"  Build (" +
+                        from_utf8(std::to_string(product::revision)) + u")");
+    lblDisclaimer.set_text(std::u16string(product::legal_notice));
+}
+
+void frmAbout::on_unload() {
+    AppTitle.clear();
+}
+
+}  // namespace qor
