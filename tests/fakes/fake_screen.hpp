@@ -15,6 +15,7 @@ class FakeScreen final : public Screen {
     std::vector<std::u16string> log;  // such as u"modal frmWKSum"
     std::function<void(Form&)> while_modal;
     double twips = 15;
+    MessageAnswer answer = MessageAnswer::ok;  // to every message
     // What the user picks; nothing: cancels.
     std::optional<std::u16string> file;
     std::optional<std::u16string> folder;
@@ -38,7 +39,7 @@ class FakeScreen final : public Screen {
     void progress(Form& form, std::int32_t, std::int32_t) override { log.push_back(u"progress " + form.name()); }
     MessageAnswer message_box(const MessageBox& message) override {
         log.push_back(u"message " + message.text);
-        return MessageAnswer::ok;
+        return answer;
     }
     std::optional<std::u16string> pick_file(Form* over, FileDialog& dialog) override {
         pick(u"file " + dialog.title, over);
