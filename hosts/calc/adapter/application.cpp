@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <com/sun/star/sheet/XCalculatable.hpp>
+#include <com/sun/star/sheet/XSpreadsheetView.hpp>
 
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/configuration.hpp"
@@ -25,26 +26,23 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
     Identity identity() const { return Identity(host_->desktop().reference(), css::uno::UNO_QUERY); }
 
   private:
+    // Nothing where no window of a workbook can be seen.
+    template <class Make>
+    Object in_active_window(Make make) {
+        const Window window = host_->active_window();
+        return window.document ? make(Book{host_, window.document}, window.controller) : Object();
+    }
     Object active_workbook() {
-        Book book{host_, host_->active_document()};
-        return book.document ? make_workbook(std::move(book)) : Object();
+        return in_active_window([](Book book, const Controller&) { return make_workbook(std::move(book)); });
     }
     Object active_sheet() {
-        const Book book{host_, host_->active_document()};
-        return book.document ? make_worksheet(book.active_sheet()) : Object();
+        return in_active_window([](Book book, const Controller& window) {
+            return make_worksheet({std::move(book), Ref<css::sheet::XSpreadsheetView>(window)->getActiveSheet()});
+        });
     }
-    Object active_window() {
-        const Book book{host_, host_->active_document()};
-        return book.document ? make_window(book, book.model()->getCurrentController()) : Object();
-    }
-    Object active_cell() {
-        const Book book{host_, host_->active_document()};
-        return book.document ? active_cell_of(book, book.model()->getCurrentController()) : Object();
-    }
-    Object selection() {
-        const Book book{host_, host_->active_document()};
-        return book.document ? selection_of(book, book.model()->getCurrentController()) : Object();
-    }
+    Object active_window() { return in_active_window(make_window); }
+    Object active_cell() { return in_active_window(active_cell_of); }
+    Object selection() { return in_active_window(selection_of); }
 
     static Variant item_or_all(Object collection, const Variant& index) {
         return index.is_missing() ? Variant(std::move(collection)) : collection.get(names::Item, index);

@@ -1,21 +1,47 @@
 #include "hosts/calc/adapter/host.hpp"
 
 #include <algorithm>
-#include <com/sun/star/awt/XWindow2.hpp>
+#include <com/sun/star/awt/XTopWindow.hpp>
+#include <com/sun/star/container/XChild.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
+#include <com/sun/star/frame/XModel2.hpp>
+#include <ranges>
 
 #include "hosts/calc/adapter/configuration.hpp"
 #include "hosts/calc/adapter/function_names.hpp"
 
 namespace qor::calc {
+namespace {
+
+std::vector<Controller> controllers_of(const Document& document) {
+    std::vector<Controller> result;
+    const Ref elements{Ref<css::frame::XModel2>(document)->getControllers()};
+    while (elements->hasMoreElements()) result.emplace_back(elements->nextElement());
+    return result;
+}
+
+// Without a document where the window is none of a workbook. That of a chart which the user works on belongs to its
+// workbook.
+Window window_of(const Controller& controller) {
+    if (!controller) return {};
+    const css::uno::Reference<css::frame::XModel> model = controller->getModel();
+    if (Document document{Ref{model}}) return {document, controller};
+    const Ref<css::container::XChild> part{Ref{model}};
+    const Document document = part ? Document{Ref{part->getParent()}} : Document();
+    if (!document) return {};
+    return {document, Controller{Ref<css::frame::XModel>(document)->getCurrentController()}};
+}
+
+}  // namespace
 
 Host::Host(css::uno::Reference<css::uno::XComponentContext> context, std::shared_ptr<HostUser> user,
            std::u16string companion_folder)
     : context_(std::move(context)),
       user_(std::move(user)),
       companion_folder_(std::move(companion_folder)),
-      desktop_(css::frame::Desktop::create(context_)) {}
+      desktop_(css::frame::Desktop::create(context_)),
+      window_list_(context_) {}
 
 HostUser& Host::user() const {
     if (!user_) throw Error(ErrorNumber::host_refused);
@@ -39,22 +65,58 @@ std::vector<Document> Host::documents() const {
     return result;
 }
 
-Document Host::active_document() {
-    Document current(Ref{desktop_->getCurrentComponent()});
-    if (current) return current;
-    const std::vector<Document> open = documents();
-    if (std::ranges::find(open, last_active_) == open.end()) {
-        const auto last_visible = std::find_if(open.rbegin(), open.rend(), has_visible_window);
-        last_active_ = last_visible == open.rend() ? Document() : *last_visible;
+std::vector<Window> Host::windows() {
+    std::vector<Window> result;
+    for (const Document& document : documents()) {
+        for (const Controller& controller : controllers_of(document)) result.push_back({document, controller});
     }
-    return last_active_;
+    std::ranges::reverse(result);  // of those that were never active the newest comes first
+    const Window active = active_window();
+    const std::vector<Controller>& known = window_list_.by_activation();
+    const auto place = [&](const Window& window) {
+        if (window.controller == active.controller) return std::ptrdiff_t{-1};
+        return std::ranges::find(known, window.controller) - known.begin();
+    };
+    std::ranges::stable_sort(result, {}, place);
+    return result;
+}
+
+std::vector<Window> Host::windows(const Document& document) {
+    std::vector<Window> result = windows();
+    std::erase_if(result, [&](const Window& window) { return window.document != document; });
+    return result;
+}
+
+Window Host::active_window() {
+    // The office itself may know none, when it runs without a screen or when another program is in front.
+    if (const Ref<css::frame::XFrame> front{desktop_->getCurrentFrame()}) {
+        const Controller controller{front->getController()};
+        if (const Window window = window_of(controller); window.document && can_be_seen(controller)) return window;
+    }
+    for (const Controller& controller : window_list_.by_activation()) {
+        if (const Window window = window_of(controller); window.document && can_be_seen(controller)) return window;
+    }
+    const std::vector<Document> open = documents();
+    for (const Document& document : std::views::reverse(open)) {
+        const auto all = controllers_of(document);
+        const auto seen = std::ranges::find_if(all, can_be_seen);
+        if (seen != all.end()) return {document, *seen};
+    }
+    return {};
+}
+
+void Host::activate(const Window& window) {
+    const Ref frame{window.controller->getFrame()};
+    frame->activate();
+    if (const Ref<css::awt::XTopWindow> top{Ref{frame->getContainerWindow()}}) top->toFront();
+    Ref<css::frame::XModel>(window.document)->setCurrentController(window.controller.reference());
+    window_list_.note_active(window.controller);
 }
 
 void Host::activate(const Document& document) {
-    if (!has_visible_window(document)) return;
-    const Ref controller{Ref<css::frame::XModel>(document)->getCurrentController()};
-    Ref(controller->getFrame())->activate();
-    last_active_ = document;
+    const std::vector<Window> all = windows(document);
+    const auto seen = std::ranges::find_if(all, can_be_seen, &Window::controller);
+    if (seen != all.end()) activate(*seen);
 }
 
 const FormulaTranslator& Host::translator() {
@@ -83,10 +145,7 @@ void Host::set_screen_updating(bool on) {
 }
 
 bool has_visible_window(const Document& document) {
-    const Ref controller{Ref<css::frame::XModel>(document)->getCurrentController()};
-    if (!controller) return false;
-    const Ref frame{controller->getFrame()};
-    return Ref<css::awt::XWindow2>(Ref{frame->getContainerWindow()})->isVisible();
+    return std::ranges::any_of(controllers_of(document), can_be_seen);
 }
 
 }  // namespace qor::calc

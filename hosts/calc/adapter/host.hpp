@@ -9,12 +9,18 @@
 #include <vector>
 
 #include "hosts/calc/adapter/host_user.hpp"
+#include "hosts/calc/adapter/window_list.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
 
 using Document = Ref<css::sheet::XSpreadsheetDocument>;
+
+struct Window {
+    Document document;
+    Controller controller;
+};
 
 // What the objects of one Application share.
 class Host : public std::enable_shared_from_this<Host> {
@@ -33,10 +39,16 @@ class Host : public std::enable_shared_from_this<Host> {
 
     // The open workbooks in the order of their opening, hidden ones too.
     std::vector<Document> documents() const;
-    // The workbook that the user works in; empty when none is open in a window that can be seen.
-    Document active_document();
-    // Brings a workbook to the front. One without a window that can be seen is left where it is.
+    // The windows of all workbooks, or of one. The active window comes first, then the one that was active before it.
+    std::vector<Window> windows();
+    std::vector<Window> windows(const Document& document);
+    // The window and the workbook that the user works in; empty when none can be seen.
+    Window active_window();
+    Document active_document() { return active_window().document; }
+    void activate(const Window& window);
+    // Brings a workbook's last active window to the front. One without a window that can be seen is left where it is.
     void activate(const Document& document);
+    WindowList& window_list() noexcept { return window_list_; }
 
     // The names of functions come from the office at the first use.
     const FormulaTranslator& translator();
@@ -51,7 +63,7 @@ class Host : public std::enable_shared_from_this<Host> {
     std::shared_ptr<HostUser> user_;
     std::u16string companion_folder_;
     Ref<css::frame::XDesktop2> desktop_;
-    Document last_active_;  // the office itself knows none when it runs without a screen
+    WindowList window_list_;
     std::optional<FormulaTranslator> translator_;
     bool screen_updating_ = true;
     std::vector<Document> locked_;  // whose screens stand still

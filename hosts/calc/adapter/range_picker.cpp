@@ -3,8 +3,8 @@
 #include <chrono>
 #include <com/sun/star/awt/SystemDependentXWindow.hpp>
 #include <com/sun/star/awt/Toolkit.hpp>
-#include <com/sun/star/awt/XReschedule.hpp>
 #include <com/sun/star/awt/XSystemDependentWindowPeer.hpp>
+#include <com/sun/star/awt/XToolkitExperimental.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/SystemDependent.hpp>
 #include <com/sun/star/sheet/XRangeSelection.hpp>
@@ -49,13 +49,10 @@ bool is_on_screen(const Ref<css::frame::XFrame>& frame) {
     return (answer >>= handle) && handle.WindowHandle != 0;
 }
 
-// Lets the office draw and answer the user. It has marked the call as outdated and offers no other.
+// Lets the office draw and answer the user.
 void handle_events(const css::uno::Reference<css::uno::XComponentContext>& context) {
-    const Ref<css::awt::XReschedule> events(Ref{css::awt::Toolkit::create(context)});
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    events->reschedule();
-#pragma GCC diagnostic pop
+    const Ref<css::awt::XToolkitExperimental> events(Ref{css::awt::Toolkit::create(context)});
+    events->processEventsToIdle();
     std::this_thread::sleep_for(10ms);
 }
 
