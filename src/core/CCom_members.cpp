@@ -2,6 +2,7 @@
 
 #include "core/CCom.hpp"
 #include "core/MMain.hpp"
+#include "core/MMenu.hpp"
 #include "core/all_workbooks.hpp"
 #include "core/reactions.hpp"
 #include "core/recent_files.hpp"
@@ -105,6 +106,20 @@ void add_commands(std::vector<Row>& rows) {
                 });
 }
 
+// A tool comes onto the menu with its member.
+void QMenuCreate() {
+    create_menu([](std::u16string_view macro) { return CCom::members().find(MemberName(macro)) != nullptr; });
+}
+
+void QMenuDelete(const std::optional<bool>& bOnlySaveMenu) {
+    delete_menu(bOnlySaveMenu.value_or(false));
+}
+
+void add_menu(std::vector<Row>& rows) {
+    rows.push_back(command(u"QMenuCreate", QMenuCreate, {}, OnError::pass));
+    rows.push_back(command(u"QMenuDelete", QMenuDelete, {u"bOnlySaveMenu"}, OnError::pass));
+}
+
 void add_reactions(std::vector<Row>& rows) {
     rows.insert(
         rows.end(),
@@ -176,6 +191,7 @@ const MemberTable<CCom>& CCom::members() {
         add_state(rows);
         add_plain_members(rows);
         add_commands(rows);
+        add_menu(rows);
         add_reactions(rows);
         add_window_toggles(rows);
         add_tools(rows);
