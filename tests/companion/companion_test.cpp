@@ -82,6 +82,8 @@ TEST_CASE_FIXTURE(Fixture, "at the end the menu goes and the recent files with i
     CHECK(take().empty());
     companion.start({});
     take();
+    companion.save_menu_places();
+    CHECK(take() == Lines{"QMenuDelete app True"});
     companion.stop();
     companion.stop();
     CHECK(take() == Lines{"QMenuDelete app False", "UTCleRecFil app False"});

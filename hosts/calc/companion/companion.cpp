@@ -67,6 +67,10 @@ void Companion::stop() {
     react(member::UTCleRecFil, host_.application, false);
 }
 
+void Companion::save_menu_places() {
+    if (started_) react(member::QMenuDelete, host_.application, true);
+}
+
 void Companion::run_macro(std::u16string_view name) {
     const Macro macro = find_macro(name);
     const MemberName member(macro.member);

@@ -31,6 +31,8 @@ class Companion {
     // At the host's start and end. A second call of stop does nothing.
     void start(const Places& places);
     void stop();
+    // Keeps where the user has put the toolbars; menu and toolbars stay.
+    void save_menu_places();
 
     // The macro that a control of the menu or of a toolbar names. Case does not matter, and an unknown one does
     // nothing.

@@ -1,6 +1,7 @@
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <cppuhelper/weak.hxx>
 
+#include "hosts/calc/companion/office/companion_service.hpp"
 #include "hosts/calc/functions/add_in.hpp"
 #include "hosts/calc/session/session_service.hpp"
 #include "hosts/calc/uno/sanitizer.hpp"
@@ -30,4 +31,9 @@ extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_functions(XComponentContext*
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_session(XComponentContext* context, const Sequence<Any>&) {
     qor::calc::keep_sanitizer_in_this_process();
     return counted(qor::calc::make_session_service(context));
+}
+
+extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_companion(XComponentContext* context, const Sequence<Any>&) {
+    qor::calc::keep_sanitizer_in_this_process();
+    return counted(qor::calc::make_companion_service(context));
 }

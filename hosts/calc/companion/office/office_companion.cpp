@@ -1,0 +1,95 @@
+#include "hosts/calc/companion/office/office_companion.hpp"
+
+#include "core/CCom.hpp"
+#include "core/MMain.hpp"
+#include "core/product.hpp"
+#include "hosts/calc/adapter/application.hpp"
+#include "hosts/calc/adapter/office_user.hpp"
+#include "hosts/calc/adapter/undo_step.hpp"
+#include "hosts/calc/bars/bars.hpp"
+#include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/running_command.hpp"
+#include "platform/text.hpp"
+#include "stores/data_folder.hpp"
+
+namespace qor::calc {
+namespace {
+
+std::u16string data_path() {
+    return from_utf8(data_folder(product::name).native());
+}
+
+void in_undo_step(std::u16string_view title, const std::function<void()>& command) {
+    const UndoStep step{std::u16string(title)};
+    command();
+}
+
+}  // namespace
+
+OfficeCompanion::OfficeCompanion(const css::uno::Reference<css::uno::XComponentContext>& context)
+    : settings_(settings_folder(product::name) / product::settings_file),
+      screen_(context),
+      faces_(context),
+      bars_(Bars::of(context)),
+      application_(make_application(context, office_user(context), data_path())) {
+    set_environment({screen_, settings_, faces_});
+    const auto report = [this](const Error& error) {
+        screen_.message_box(
+            {.title = std::u16string(product::title), .text = error.description(), .icon = MessageIcon::critical});
+    };
+    companion_.emplace(make_object<CCom>(),
+                       Companion::Host{.application = application_, .undo_step = in_undo_step, .report = report});
+    bars_->set_macro_runner([this](const std::u16string& macro) {
+        run([&] { companion_->run_macro(macro); });
+        set_timers();
+    });
+    events_ = std::make_unique<EventSource>(context, handlers());
+    save_timer_ = events_->make_timer([this] { run([&] { companion_->save_by_time(); }); });
+    review_timer_ = events_->make_timer([this] { run([&] { companion_->review_by_time(); }); });
+}
+
+void OfficeCompanion::start() {
+    create_data_files(data_folder(product::name));
+    run([&] { companion_->start({.data_folder = data_path(), .help_file = {}}); });
+    set_timers();
+}
+
+bool OfficeCompanion::may_end() {
+    if (screen_.close_dialogs()) return false;
+    run([&] { companion_->save_menu_places(); });
+    return true;
+}
+
+void OfficeCompanion::stop() {
+    save_timer_.reset();
+    review_timer_.reset();
+    events_.reset();
+    run([&] { companion_->stop(); });
+    bars_->set_macro_runner({});
+}
+
+void OfficeCompanion::run(const std::function<void()>& work) {
+    const RunningCommand running;
+    attempt([&] { guarded(work); });
+}
+
+HostEvents OfficeCompanion::handlers() {
+    HostEvents events;
+    events.workbook_opened = [this](const std::u16string& name) { run([&] { companion_->workbook_opened(name); }); };
+    events.workbook_created = [this](const std::u16string&) { run([&] { companion_->workbook_created(); }); };
+    events.workbook_to_be_saved = [this](const std::u16string& name) {
+        run([&] { companion_->workbook_to_be_saved(name); });
+    };
+    events.workbook_saved_as = [this](const std::u16string&) { run([&] { companion_->workbook_saved_as(); }); };
+    events.selection_changed = [this](const SelectionPlace& place) {
+        run([&] { companion_->selection_changed(place.worksheet, place.address); });
+    };
+    return events;
+}
+
+void OfficeCompanion::set_timers() {
+    save_timer_->set(companion_->save_interval());
+    review_timer_->set(companion_->review_interval());
+}
+
+}  // namespace qor::calc
