@@ -20,6 +20,7 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
 
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
+            if (run.run_type == Run::RT_Iteration) label_ = run.report_label;  // the runs may differ in it
             if (run.error_occurred) {
                 fmt::print(report_, "{:<50} failed: {}\n", run.run_name.function_name, run.error_message);
                 failed_ = true;
@@ -44,11 +45,13 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
         fmt::print(report_, "{:<50}{:>11.2f} {:<2}{:>10.4f}", name, time, benchmark::GetTimeUnitString(run.time_unit),
                    seconds / baseline_);
         for (const auto& [counter, value] : run.counters) fmt::print(report_, "  {} {:.0f}", counter, value.value);
+        if (!label_.empty()) fmt::print(report_, "  {}", label_);
         report_ << std::endl;
     }
 
     std::ostream& report_;
     std::string group_;
+    std::string label_;
     double baseline_ = 1;
     bool failed_ = false;
 };

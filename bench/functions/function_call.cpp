@@ -5,6 +5,7 @@
 #include <cmath>
 #include <iostream>
 
+#include "bench/functions/cases.hpp"
 #include "bench/ratio_report.hpp"
 #include "core/CCom.hpp"
 #include "core/MMain.hpp"
@@ -69,5 +70,6 @@ int main(int argc, char** argv) {
     enter("call/declared formula", declared_formula);
     enter("call/late bound", late_bound_call);
     enter("call/late bound, name looked up each time", late_bound_call_by_text);
+    bench::register_families();
     return bench::run_with_ratios({argv, static_cast<std::size_t>(argc)}, std::cout) ? 0 : 1;
 }
