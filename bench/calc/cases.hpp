@@ -6,7 +6,7 @@ namespace qor::bench {
 
 using Context = com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>;
 
-// A column of 100,000 formulas, computed anew: a function of ours, one of Calc's own add-ins, and built-in ones.
+// Columns of 100,000 formulas, computed anew: functions of ours, of Calc's own add-ins, and built-in ones.
 void register_recalculation(const Context& context);
 
 // The Worksheet Summary of a sheet of 200,000 used cells, by the tool and by the walk from cell to cell.

@@ -27,7 +27,7 @@ constexpr std::int32_t run_length = 100;
 
 // A new workbook as the tools see it and as the office hands it out.
 struct Bench {
-    explicit Bench(const Context& context) : application(calc::make_application(context)) {
+    explicit Bench(const Context& context) : application(calc::make_application(context, nullptr)) {
         book = application.get(names::Workbooks).call(names::Add);
         sheet = book.get(names::Worksheets, 1);
         const calc::Document document = calc::Host(context).documents().back();

@@ -70,7 +70,7 @@ void enter_library(const css::uno::Reference<css::table::XCellRange>& sheet) {
 }
 
 void recalculate_library(benchmark::State& state, const Context& context) {
-    const Object application = calc::make_application(context);
+    const Object application = calc::make_application(context, nullptr);
     const Object book = application.get(names::Workbooks).call(names::Add);
     const calc::Document document = calc::Host(context).documents().back();
     const css::uno::Reference<css::sheet::XCalculatable> calculation(document.reference(), css::uno::UNO_QUERY_THROW);
