@@ -58,12 +58,21 @@ std::vector<Ref<css::frame::XController>> Book::controllers() const {
     return result;
 }
 
+Sheet::Sheet(Book of, Ref<css::sheet::XSpreadsheet> which) : book(std::move(of)), sheet(std::move(which)) {
+    if (!sheet) throw Error(ErrorNumber::host_refused);
+    life_ = book.host->sheet_lives().hold(book.document, sheet);
+}
+
 std::u16string Sheet::name() const {
     return from_uno(Ref<css::container::XNamed>(sheet)->getName());
 }
 
 std::int32_t Sheet::index() const {
     return Ref<css::sheet::XCellRangeAddressable>(sheet)->getRangeAddress().Sheet;
+}
+
+void Sheet::require_alive() const {
+    if (life_->gone) throw Error(ErrorNumber::host_refused);
 }
 
 Book book_named(const HostPointer& host, std::u16string_view name) {

@@ -31,11 +31,18 @@ struct Book {
 
 // One worksheet of a workbook.
 struct Sheet {
+    Sheet(Book of, Ref<css::sheet::XSpreadsheet> which);
+
     Book book;
     Ref<css::sheet::XSpreadsheet> sheet;
 
     std::u16string name() const;
     std::int32_t index() const;  // from 0, at this moment
+    // Raises 1004 when the sheet or its workbook is gone.
+    void require_alive() const;
+
+  private:
+    std::shared_ptr<const SheetLife> life_;
 };
 
 // The open workbook of that name; raises 9 when there is none.

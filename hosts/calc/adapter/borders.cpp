@@ -8,6 +8,7 @@
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/colours.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/range_address.hpp"
 
 namespace qor::calc {
 namespace {
@@ -72,6 +73,8 @@ class BorderObject final : public CalcObject<BorderObject> {
     BorderObject(RangeAreas areas, std::optional<Side> side) : areas_(std::move(areas)), side_(side) {}
 
     static const MemberTable<BorderObject>& members();
+    std::u16string place() const { return place_of(areas_); }
+    void require_alive() const { areas_.sheet.require_alive(); }
 
   private:
     // What the sides agree in, Null where they differ.

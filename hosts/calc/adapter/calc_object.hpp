@@ -4,6 +4,7 @@
 
 #include "automation/member_table.hpp"
 #include "hosts/calc/adapter/object_model.hpp"
+#include "hosts/calc/adapter/refusal.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/ref.hpp"
 #include "runtime/bind.hpp"
@@ -16,7 +17,18 @@ template <class Self>
 class CalcObject : public Dispatch {
   public:
     Variant invoke(const MemberName& name, Access access, Arguments arguments) final {
-        return guarded([&] { return Self::members().invoke(self(), name, access, arguments); });
+        try {
+            return guarded([&] {
+                if constexpr (requires { self().require_alive(); }) self().require_alive();
+                return Self::members().invoke(self(), name, access, arguments);
+            });
+        } catch (const Error& error) {
+            if constexpr (requires(const Self& object) { object.place(); }) {
+                throw at_place(error, name, access);
+            } else {
+                throw;
+            }
+        }
     }
     std::vector<Variant> items() final {
         return guarded([&]() -> std::vector<Variant> {
@@ -44,6 +56,17 @@ class CalcObject : public Dispatch {
     }
 
   private:
+    // A refusal, said in the host's words with the member and the place. One that another object raised, on whose
+    // members this one's stands, has been said already.
+    Error at_place(const Error& error, const MemberName& name, Access access) const {
+        if (error.number() != static_cast<std::int32_t>(ErrorNumber::host_refused) || !error.source().empty()) {
+            return error;
+        }
+        std::u16string place;
+        attempt([&] { guarded([&] { place = self().place(); }); });
+        return refusal(Self::name_of_type, name.text(), access, place, error.description());
+    }
+
     static std::vector<MemberDescription> describe_members() {
         std::vector<MemberDescription> result;
         for (const auto& row : Self::members().rows()) {

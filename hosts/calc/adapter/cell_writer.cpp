@@ -46,4 +46,13 @@ void clear_contents(const RangeAreas& areas) {
         ->clearContents(flag::VALUE | flag::DATETIME | flag::STRING | flag::FORMULA);
 }
 
+void clear_all(const RangeAreas& areas) {
+    namespace flag = css::sheet::CellFlags;
+    before_writing(areas);
+    before_formatting(areas);
+    Ref<css::sheet::XSheetOperation>(areas.whole())
+        ->clearContents(flag::VALUE | flag::DATETIME | flag::STRING | flag::FORMULA | flag::ANNOTATION |
+                        flag::HARDATTR | flag::STYLES | flag::EDITATTR);
+}
+
 }  // namespace qor::calc

@@ -16,5 +16,7 @@ void write_values(const RangeAreas& areas, const Variant& value);
 void write_array_formula(const RangeAreas& areas, const std::u16string& formula);
 
 void clear_contents(const RangeAreas& areas);
+// Contents, looks and comments.
+void clear_all(const RangeAreas& areas);
 
 }  // namespace qor::calc

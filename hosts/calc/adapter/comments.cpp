@@ -23,6 +23,7 @@ class CommentObject final : public CalcObject<CommentObject> {
 
     CommentObject(Sheet sheet, css::table::CellAddress cell) : sheet_(std::move(sheet)), cell_(cell) {}
 
+    void require_alive() const { sheet_.require_alive(); }
     static const MemberTable<CommentObject>& members() {
         using C = CommentObject;
         static const MemberTable<C> table({
@@ -77,6 +78,7 @@ class CommentsObject final : public CalcObject<CommentsObject> {
 
     explicit CommentsObject(Sheet sheet) : sheet_(std::move(sheet)) {}
 
+    void require_alive() const { sheet_.require_alive(); }
     static const MemberTable<CommentsObject>& members() {
         using C = CommentsObject;
         static const MemberTable<C> table({

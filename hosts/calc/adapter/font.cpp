@@ -7,6 +7,7 @@
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/colours.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/range_address.hpp"
 
 namespace qor::calc {
 namespace {
@@ -24,6 +25,8 @@ class FontObject final : public CalcObject<FontObject> {
     explicit FontObject(RangeAreas areas) : areas_(std::move(areas)) {}
 
     static const MemberTable<FontObject>& members();
+    std::u16string place() const { return place_of(areas_); }
+    void require_alive() const { areas_.sheet.require_alive(); }
 
   private:
     Variant bold() {
@@ -99,6 +102,8 @@ class InteriorObject final : public CalcObject<InteriorObject> {
     explicit InteriorObject(RangeAreas areas) : areas_(std::move(areas)) {}
 
     static const MemberTable<InteriorObject>& members();
+    std::u16string place() const { return place_of(areas_); }
+    void require_alive() const { areas_.sheet.require_alive(); }
 
   private:
     static constexpr std::int32_t white = 0xFFFFFF;

@@ -2,20 +2,18 @@
 
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/frame/XModel.hpp>
-#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "hosts/calc/adapter/host_user.hpp"
+#include "hosts/calc/adapter/sheet_lives.hpp"
 #include "hosts/calc/adapter/window_list.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
-
-using Document = Ref<css::sheet::XSpreadsheetDocument>;
 
 struct Window {
     Document document;
@@ -56,7 +54,16 @@ class Host : public std::enable_shared_from_this<Host> {
     bool screen_updating() const noexcept { return screen_updating_; }
     void set_screen_updating(bool on);
 
+    SheetLives& sheet_lives() noexcept { return sheet_lives_; }
+
     bool display_alerts = true;
+
+    // The copy of cells that was put on the clipboard last, and its size.
+    struct Copied {
+        Ref<css::uno::XInterface> cells;
+        std::int32_t rows = 0;
+        std::int32_t columns = 0;
+    } copied;
 
   private:
     css::uno::Reference<css::uno::XComponentContext> context_;
@@ -65,6 +72,7 @@ class Host : public std::enable_shared_from_this<Host> {
     Ref<css::frame::XDesktop2> desktop_;
     WindowList window_list_;
     std::optional<FormulaTranslator> translator_;
+    SheetLives sheet_lives_;
     bool screen_updating_ = true;
     std::vector<Document> locked_;  // whose screens stand still
 };

@@ -19,6 +19,7 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
 
     explicit HyperlinksObject(RangeAreas areas) : areas_(std::move(areas)) {}
 
+    void require_alive() const { areas_.sheet.require_alive(); }
     static const MemberTable<HyperlinksObject>& members() {
         static const MemberTable<HyperlinksObject> table({
             property<&HyperlinksObject::application>(u"Application"),

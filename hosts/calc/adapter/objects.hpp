@@ -20,6 +20,7 @@ Object make_sheets(Book book);
 Object make_sheets(Book book, std::vector<Sheet> chosen);
 Object make_worksheet(Sheet sheet);
 Object make_range(RangeAreas areas);
+Object make_areas(RangeAreas areas);
 Object make_font(RangeAreas areas);
 Object make_interior(RangeAreas areas);
 Object make_borders(RangeAreas areas);

@@ -3,6 +3,7 @@
 #include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeReferrer.hpp>
+#include <com/sun/star/sheet/XCellRangesAccess.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <optional>
 
@@ -90,6 +91,12 @@ bool Rectangle::contains(const Rectangle& other) const {
     return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom;
 }
 
+std::optional<Rectangle> Rectangle::common_with(const Rectangle& other) const {
+    const Rectangle common{std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+                           std::min(bottom, other.bottom)};
+    return common.left <= common.right && common.top <= common.bottom ? std::optional(common) : std::nullopt;
+}
+
 Rectangle rectangle_of(const Cells& cells) {
     const auto address = Ref<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress();
     return {address.StartColumn, address.StartRow, address.EndColumn, address.EndRow};
@@ -111,11 +118,25 @@ Ref<css::uno::XInterface> RangeAreas::whole() const {
 
 Cells cells_at(const Sheet& sheet, const Rectangle& rectangle) {
     if (!rectangle.within_sheet()) throw Error(ErrorNumber::host_refused);
-    return sheet.sheet->getCellRangeByPosition(rectangle.left, rectangle.top, rectangle.right, rectangle.bottom);
+    // Not by way of the sheet: where cells are deleted, the object that stands for it loses rows or columns.
+    const Ref<css::sheet::XCellRangesAccess> sheets(Ref{sheet.book.document->getSheets()});
+    return sheets->getCellRangeByPosition(rectangle.left, rectangle.top, rectangle.right, rectangle.bottom,
+                                          sheet.index());
 }
 
 RangeAreas range_at(const Sheet& sheet, const Rectangle& rectangle, RangeUnit unit) {
     return {sheet, {cells_at(sheet, rectangle)}, unit};
+}
+
+RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit) {
+    RangeAreas result{areas.sheet, {}, unit};
+    for (std::size_t i = 0; i < areas.areas.size(); ++i) {
+        const Rectangle area = areas.rectangle(i);
+        result.areas.push_back(cells_at(areas.sheet, unit == RangeUnit::rows
+                                                         ? Rectangle{0, area.top, column_limit - 1, area.bottom}
+                                                         : Rectangle{area.left, 0, area.right, row_limit - 1}));
+    }
+    return result;
 }
 
 RangeAreas range_named(const Sheet& sheet, std::u16string_view text, const Rectangle& origin) {

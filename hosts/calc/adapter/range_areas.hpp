@@ -2,6 +2,7 @@
 
 #include <com/sun/star/table/CellRangeAddress.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,7 @@ struct Rectangle {
     std::int64_t cells() const { return std::int64_t{width()} * height(); }
     bool within_sheet() const;
     bool contains(const Rectangle& other) const;
+    std::optional<Rectangle> common_with(const Rectangle& other) const;
     bool operator==(const Rectangle&) const = default;
 };
 
@@ -44,6 +46,8 @@ struct RangeAreas {
 Cells cells_at(const Sheet& sheet, const Rectangle& rectangle);
 RangeAreas range_at(const Sheet& sheet, const Rectangle& rectangle, RangeUnit unit = RangeUnit::cells);
 Rectangle rectangle_of(const Cells& cells);
+// The whole rows or columns that the areas lie in, area by area.
+RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit);
 
 // The range that a text names, such as "A1:B2,D4", "A:A", "Sheet2!C3" or a defined name. Where it says no sheet, it
 // lies on `sheet`; cells count from `origin`'s top left corner. Raises 1004 when it names none.

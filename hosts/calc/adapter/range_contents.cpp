@@ -71,6 +71,10 @@ void RangeObject::set_formula_array(const std::u16string& formula) {
     write_array_formula(areas_, formula);
 }
 
+void RangeObject::clear() {
+    clear_all(areas_);
+}
+
 void RangeObject::clear_contents() {
     qor::calc::clear_contents(areas_);
 }

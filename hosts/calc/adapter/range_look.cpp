@@ -3,6 +3,7 @@
 #include <cmath>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
+#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
@@ -10,6 +11,7 @@
 #include <functional>
 
 #include "hosts/calc/adapter/attributes.hpp"
+#include "hosts/calc/adapter/digit_width.hpp"
 #include "hosts/calc/adapter/number_formats.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
 
@@ -34,26 +36,64 @@ constexpr std::array alignments{
 constexpr double points_per_inch = 72;
 constexpr double twips_per_point = 20;  // the office keeps heights in these
 constexpr double twips_per_inch = points_per_inch * twips_per_point;
-constexpr double units_per_inch = 2540;      // the office measures in hundredths of a millimetre
-constexpr double units_per_character = 224;  // a digit of the default font, as the office counts in its own xlsx files
+constexpr double units_per_inch = 2540;  // the office measures in hundredths of a millimetre
 
-double rounded(double value) {
-    return std::round(value * 100) / 100;
+enum class Strip : std::uint8_t { column, row };
+
+Ref<css::container::XIndexAccess> strips_of(const Cells& cells, Strip kind) {
+    const Ref<css::table::XColumnRowRange> both(cells);
+    return kind == Strip::column ? Ref<css::container::XIndexAccess>(Ref{both->getColumns()})
+                                 : Ref<css::container::XIndexAccess>(Ref{both->getRows()});
 }
 
-Ref<css::table::XColumnRowRange> columns_and_rows(const RangeAreas& areas) {
-    return Ref<css::table::XColumnRowRange>(areas.areas.front());
-}
-
-std::optional<std::int32_t> shared_length(const Ref<css::uno::XInterface>& strips, const char* name) {
-    const Ref<css::container::XIndexAccess> all(strips);
+// In hundredths of a millimetre, 0 for what is hidden; none when they differ.
+std::optional<std::int32_t> shared_length(const RangeAreas& areas, Strip kind, const char* name) {
     std::optional<std::int32_t> result;
-    for (sal_Int32 i = 0, count = all->getCount(); i < count; ++i) {
-        const auto one = get_property<sal_Int32>(Ref<css::uno::XInterface>(all->getByIndex(i)), name);
-        if (result && *result != one) return {};
-        result = one;
+    for (const Cells& cells : areas.areas) {
+        const auto strips = strips_of(cells, kind);
+        for (sal_Int32 i = 0, count = strips->getCount(); i < count; ++i) {
+            const Ref<css::beans::XPropertySet> strip(strips->getByIndex(i));
+            const auto one = get_property<bool>(strip, "IsVisible") ? get_property<sal_Int32>(strip, name) : 0;
+            if (result && *result != one) return {};
+            result = one;
+        }
     }
     return result;
+}
+
+// A length of 0 hides.
+void set_length(const RangeAreas& areas, Strip kind, const char* name, std::int32_t length) {
+    before_formatting(areas);
+    for (const Cells& cells : areas.areas) {
+        const auto strips = strips_of(cells, kind);
+        if (length > 0) set_property(strips, name, length);
+        set_property(strips, "IsVisible", length > 0);
+    }
+}
+
+// Locked and hidden stand in one attribute, so cells that differ in it are changed by their looks.
+template <class Change>
+void change_protection(const RangeAreas& areas, Change change) {
+    constexpr const char* name = "CellProtection";
+    before_formatting(areas);
+    const auto change_in = [&](const Ref<css::uno::XInterface>& cells) {
+        auto protection = get_property<CellProtection>(cells, name);
+        change(protection);
+        set_property(cells, name, protection);
+    };
+    for (const Cells& cells : areas.areas) {
+        const auto state =
+            Ref<css::beans::XPropertyState>(cells)->getPropertyState(rtl::OUString::createFromAscii(name));
+        if (state != css::beans::PropertyState_AMBIGUOUS_VALUE) {
+            change_in(Ref<css::uno::XInterface>(cells));
+            continue;
+        }
+        const Ref<css::container::XIndexAccess> looks(
+            Ref{Ref<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges()});
+        std::vector<Ref<css::uno::XInterface>> runs;
+        for (sal_Int32 i = 0, count = looks->getCount(); i < count; ++i) runs.emplace_back(looks->getByIndex(i));
+        for (const auto& run : runs) change_in(run);
+    }
 }
 
 }  // namespace
@@ -93,9 +133,7 @@ Variant RangeObject::locked() {
 }
 
 void RangeObject::set_locked(bool locked) {
-    auto protection = get_property<CellProtection>(areas_.whole(), "CellProtection");
-    protection.IsLocked = locked;
-    set_attribute(areas_, "CellProtection", protection);
+    change_protection(areas_, [&](CellProtection& protection) { protection.IsLocked = locked; });
 }
 
 Variant RangeObject::formula_hidden() {
@@ -104,9 +142,7 @@ Variant RangeObject::formula_hidden() {
 }
 
 void RangeObject::set_formula_hidden(bool hidden) {
-    auto protection = get_property<CellProtection>(areas_.whole(), "CellProtection");
-    protection.IsFormulaHidden = hidden;
-    set_attribute(areas_, "CellProtection", protection);
+    change_protection(areas_, [&](CellProtection& protection) { protection.IsFormulaHidden = hidden; });
 }
 
 // Whether the first cell belongs to merged ones.
@@ -120,46 +156,41 @@ Variant RangeObject::merge_cells() {
 }
 
 Variant RangeObject::column_width() {
-    const Ref<css::uno::XInterface> columns(Ref{columns_and_rows(areas_)->getColumns()});
-    return answer(shared_length(columns, "Width"),
-                  [](std::int32_t width) { return rounded(width / units_per_character); });
+    const DigitWidth digit(areas_.sheet.book);
+    return answer(shared_length(areas_, Strip::column, "Width"),
+                  [&](std::int32_t width) { return digit.characters_in(width); });
 }
 
 void RangeObject::set_column_width(double characters) {
-    before_formatting(areas_);
-    set_property(Ref{columns_and_rows(areas_)->getColumns()}, "Width",
-                 static_cast<sal_Int32>(std::lround(characters * units_per_character)));
+    constexpr double most_characters = 255;
+    if (characters < 0 || characters > most_characters) throw Error(ErrorNumber::host_refused);
+    const DigitWidth digit(areas_.sheet.book);
+    set_length(areas_, Strip::column, "Width", digit.width_of(characters));
 }
 
 Variant RangeObject::row_height() {
-    const Ref<css::uno::XInterface> rows(Ref{columns_and_rows(areas_)->getRows()});
-    return answer(shared_length(rows, "Height"), [](std::int32_t height) {
+    return answer(shared_length(areas_, Strip::row, "Height"), [](std::int32_t height) {
         return std::round(height * twips_per_inch / units_per_inch) / twips_per_point;
     });
 }
 
 void RangeObject::set_row_height(double points) {
-    before_formatting(areas_);
-    set_property(Ref{columns_and_rows(areas_)->getRows()}, "Height",
-                 static_cast<sal_Int32>(std::lround(points * units_per_inch / points_per_inch)));
+    constexpr double most_points = 409.5;
+    if (points < 0 || points > most_points) throw Error(ErrorNumber::host_refused);
+    set_length(areas_, Strip::row, "Height",
+               static_cast<std::int32_t>(std::lround(points * units_per_inch / points_per_inch)));
 }
 
 // Of whole rows and whole columns only.
 Variant RangeObject::hidden() {
-    const auto strips = columns_and_rows(areas_);
-    const bool visible = areas_.unit == RangeUnit::columns ? get_property<bool>(Ref{strips->getColumns()}, "IsVisible")
-                                                           : get_property<bool>(Ref{strips->getRows()}, "IsVisible");
-    return !visible;
+    const Strip kind = areas_.unit == RangeUnit::columns ? Strip::column : Strip::row;
+    return !get_property<bool>(strips_of(areas_.areas.front(), kind), "IsVisible");
 }
 
 void RangeObject::set_hidden(bool hidden) {
     before_formatting(areas_);
-    const auto strips = columns_and_rows(areas_);
-    if (areas_.unit == RangeUnit::columns) {
-        set_property(Ref{strips->getColumns()}, "IsVisible", !hidden);
-    } else {
-        set_property(Ref{strips->getRows()}, "IsVisible", !hidden);
-    }
+    const Strip kind = areas_.unit == RangeUnit::columns ? Strip::column : Strip::row;
+    for (const Cells& cells : areas_.areas) set_property(strips_of(cells, kind), "IsVisible", !hidden);
 }
 
 Object RangeObject::font() {

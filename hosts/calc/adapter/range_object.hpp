@@ -2,6 +2,7 @@
 
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/range_address.hpp"
 
 namespace qor::calc {
 
@@ -15,17 +16,20 @@ class RangeObject final : public CalcObject<RangeObject> {
     static const MemberTable<RangeObject>& members();
 
     const RangeAreas& areas() const noexcept { return areas_; }
+    std::u16string place() const { return place_of(areas_); }
+    void require_alive() const { areas_.sheet.require_alive(); }
     std::vector<Variant> elements() const;
 
   private:
-    // Place and parts (range.cpp).
+    // Place and parts (range.cpp, range_parts.cpp).
     std::int32_t count();
     std::int32_t row();
     std::int32_t column();
     std::u16string address(std::optional<bool> row_fixed, std::optional<bool> column_fixed,
-                           std::optional<std::int32_t> style, std::optional<bool> external);
+                           std::optional<std::int32_t> style, std::optional<bool> external, const Variant& relative_to);
     Object item(const Variant& first, const Variant& second);
     Object cells(const Variant& row, const Variant& column);
+    Object strips(RangeUnit unit, const Variant& index);
     Object rows(const Variant& index);
     Object columns(const Variant& index);
     Object range(const Variant& first, const Variant& last);
@@ -37,6 +41,18 @@ class RangeObject final : public CalcObject<RangeObject> {
     void select();
     void activate();
 
+    // Finding cells (range_search.cpp).
+    Object special_cells(std::int32_t type, std::optional<std::int32_t> value);
+    Object find(const std::u16string& what, const Variant& after, std::optional<std::int32_t> look_in,
+                std::optional<std::int32_t> look_at, std::optional<std::int32_t> order,
+                std::optional<std::int32_t> direction, std::optional<bool> match_case);
+
+    // Moving cells (range_moves.cpp).
+    void insert(std::optional<std::int32_t> shift);
+    void remove(std::optional<std::int32_t> shift);
+    void copy(const Variant& destination);
+    void paste_special(std::optional<std::int32_t> what);
+
     // What the cells hold (range_contents.cpp).
     Variant value();
     Variant value2();
@@ -47,6 +63,7 @@ class RangeObject final : public CalcObject<RangeObject> {
     Variant text();
     void set_value(const Variant& value);
     void set_formula_array(const std::u16string& formula);
+    void clear();
     void clear_contents();
     Object comment();
     Object add_comment(std::optional<std::u16string> text);
@@ -76,5 +93,8 @@ class RangeObject final : public CalcObject<RangeObject> {
 
     RangeAreas areas_;
 };
+
+// The areas of a range that is given as an argument; raises 1004 when it is none.
+const RangeAreas& areas_of(const Variant& value);
 
 }  // namespace qor::calc

@@ -1,8 +1,6 @@
 #include "hosts/calc/adapter/selection.hpp"
 
 #include <algorithm>
-#include <com/sun/star/frame/DispatchHelper.hpp>
-#include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/sheet/XSelectedSheetsSupplier.hpp>
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
@@ -10,8 +8,8 @@
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 #include <set>
 
+#include "hosts/calc/adapter/command.hpp"
 #include "hosts/calc/adapter/objects.hpp"
-#include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
 
 namespace qor::calc {
@@ -35,13 +33,6 @@ std::vector<std::int32_t> numbers_in(std::u16string_view text) {
 std::u16string_view field(std::u16string_view text, std::size_t place) {
     for (; place > 0; --place) text.remove_prefix(std::min(text.find(u';'), text.size() - 1) + 1);
     return text.substr(0, text.find(u';'));
-}
-
-void dispatch(const Book& book, const char* command, const PropertyValues& arguments) {
-    const Ref helper{css::frame::DispatchHelper::create(book.host->context())};
-    const Ref controller{book.model()->getCurrentController()};
-    const css::uno::Reference<css::frame::XDispatchProvider> frame(controller->getFrame(), css::uno::UNO_QUERY);
-    helper->executeDispatch(frame, rtl::OUString::createFromAscii(command), {}, 0, arguments);
 }
 
 }  // namespace
@@ -95,7 +86,7 @@ void select_sheets(const Book& book, std::vector<std::int32_t> indices, bool rep
         }
     }
     const css::uno::Sequence<sal_Int32> tables(indices.data(), static_cast<sal_Int32>(indices.size()));
-    dispatch(book, ".uno:SelectTables", sequence_of({named_value("Tables", tables)}));
+    run_command(book, ".uno:SelectTables", sequence_of({named_value("Tables", tables)}));
     const auto selected = view->getSelectedSheets();
     const std::set<std::int32_t> wanted(indices.begin(), indices.end());
     if (wanted != std::set<std::int32_t>(selected.begin(), selected.end())) throw Error(ErrorNumber::host_refused);

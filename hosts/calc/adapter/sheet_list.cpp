@@ -29,6 +29,14 @@ std::u16string unused_name(const std::set<std::u16string>& taken) {
     }
 }
 
+void remove_from_book(const Sheet& sheet) {
+    const auto holders = sheet.book.host->sheet_lives().holders_of(sheet.book.document, sheet.index());
+    const std::u16string name = sheet.name();
+    Ref(sheet.book.document->getSheets())->removeByName(to_uno(name));
+    remove_sheet_marks(sheet.book, name);
+    for (const auto& holder : holders) holder->gone = true;
+}
+
 }  // namespace
 
 Sheet insert_sheets(const Book& book, std::int32_t place, std::int32_t count) {
@@ -69,7 +77,7 @@ void delete_sheet(const Sheet& sheet) {
         std::ranges::count_if(all, [](const Sheet& each) { return get_property<bool>(each.sheet, "IsVisible"); });
     if (visible == 1 && get_property<bool>(sheet.sheet, "IsVisible")) throw Error(ErrorNumber::host_refused);
     before_change(sheet.book);
-    Ref(sheet.book.document->getSheets())->removeByName(to_uno(sheet.name()));
+    remove_from_book(sheet);
 }
 
 }  // namespace qor::calc

@@ -106,4 +106,9 @@ void move_sheet_marks(const Book& book, const std::u16string& from, const std::u
     }
 }
 
+void remove_sheet_marks(const Book& book, const std::u16string& name) {
+    MarksByName all = read_all(book);
+    if (all.erase(name) > 0) write_all(book, all);
+}
+
 }  // namespace qor::calc

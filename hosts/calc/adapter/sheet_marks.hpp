@@ -25,5 +25,6 @@ SheetMarks sheet_marks(const Sheet& sheet);
 void set_sheet_marks(const Sheet& sheet, const SheetMarks& marks);
 // The marks go along with the sheet's new name.
 void move_sheet_marks(const Book& book, const std::u16string& from, const std::u16string& to);
+void remove_sheet_marks(const Book& book, const std::u16string& name);
 
 }  // namespace qor::calc

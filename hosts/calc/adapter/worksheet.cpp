@@ -1,11 +1,13 @@
-#include <com/sun/star/sheet/XUsedAreaCursor.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
 #include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/clipboard.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/range_object.hpp"
 #include "hosts/calc/adapter/selection.hpp"
 #include "hosts/calc/adapter/sheet_list.hpp"
 #include "hosts/calc/adapter/sheet_marks.hpp"
+#include "hosts/calc/adapter/used_area.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
@@ -28,8 +30,13 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
 
     static const MemberTable<WorksheetObject>& members();
 
+    std::u16string place() const { return sheet_.name(); }
+    void require_alive() const { sheet_.require_alive(); }
     // The office makes a new object each time that a sheet is asked for.
-    auto identity() const { return std::pair(sheet_.book.document, sheet_.index()); }
+    auto identity() const {
+        require_alive();
+        return std::pair(sheet_.book.document, sheet_.index());
+    }
 
   private:
     std::u16string name() { return sheet_.name(); }
@@ -83,12 +90,7 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
         set_sheet_marks(sheet_, marks);
     }
 
-    Object used_range() {
-        const Ref<css::sheet::XUsedAreaCursor> cursor(Ref{sheet_.sheet->createCursor()});
-        cursor->gotoStartOfUsedArea(false);
-        cursor->gotoEndOfUsedArea(true);
-        return make_range(range_at(sheet_, rectangle_of(Cells(cursor))));
-    }
+    Object used_range() { return make_range(range_at(sheet_, used_area(sheet_))); }
 
     Object part(RangeUnit unit, const Variant& first, const Variant& second) {
         const Object all = make_range(range_at(sheet_, whole_sheet, unit));
@@ -105,6 +107,19 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
 
     Object comments() { return make_comments(sheet_); }
     Object hyperlinks() { return make_hyperlinks(range_at(sheet_, whole_sheet)); }
+
+    // Without a destination it goes where the selection is.
+    void paste(const Variant& destination) { paste_from_clipboard(place_to_paste(destination), qor::calc::paste::all); }
+    void paste_special(std::optional<std::int32_t> what) {
+        paste_from_clipboard(place_to_paste(Missing{}), what.value_or(qor::calc::paste::all));
+    }
+    RangeAreas place_to_paste(const Variant& destination) {
+        if (!destination.is_missing()) return areas_of(destination);
+        activate();
+        auto selected = selected_areas(sheet_.book, sheet_.book.model()->getCurrentController());
+        if (!selected) throw Error(ErrorNumber::host_refused);
+        return *std::move(selected);
+    }
 
     void activate() {
         sheet_.book.host->activate(sheet_.book.document);
@@ -134,6 +149,8 @@ const MemberTable<WorksheetObject>& WorksheetObject::members() {
         property<&W::index>(u"Index"),
         property<&W::name, &W::set_name>(u"Name"),
         property<&W::parent>(u"Parent"),
+        method<&W::paste>(u"Paste", {u"Destination"}),
+        method<&W::paste_special>(u"PasteSpecial", {u"Paste"}),
         method<&W::protect>(u"Protect", {u"Password", u"DrawingObjects", u"Contents", u"Scenarios"}),
         property<&W::protect_contents>(u"ProtectContents"),
         property<&W::protect_drawing_objects>(u"ProtectDrawingObjects"),
@@ -151,7 +168,6 @@ const MemberTable<WorksheetObject>& WorksheetObject::members() {
 }  // namespace
 
 Object make_worksheet(Sheet sheet) {
-    if (!sheet.sheet) throw Error(ErrorNumber::host_refused);
     return make_object<WorksheetObject>(std::move(sheet));
 }
 
