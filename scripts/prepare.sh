@@ -28,7 +28,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-
     libreoffice-calc libreoffice-dev librsvg2-bin optipng libwxgtk3.2-dev libgtk-3-dev)
 run_packages=(libreoffice-gtk3 libreoffice-base-drivers poppler-utils fonts-liberation)
 test_packages=(doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev clang-format clang-tidy procps
-    xvfb openbox xdotool)
+    xvfb openbox xdotool hunspell-en-us)
 
 # Checkouts in other folders share what ccache keeps.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1

@@ -10,6 +10,7 @@
 #include "hosts/calc/adapter/configuration.hpp"
 #include "hosts/calc/adapter/convert_formula.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/spelling.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -40,6 +41,10 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
             return make_worksheet({std::move(book), Ref<css::sheet::XSpreadsheetView>(window)->getActiveSheet()});
         });
     }
+    Object active_chart() {
+        return in_active_window([](const Book& book, const Controller&) { return active_chart_of(book); });
+    }
+    bool check_spelling(const std::u16string& word) { return is_spelled_right(active_book(host_), word); }
     Object active_window() { return in_active_window(make_window); }
     Object active_cell() { return in_active_window(active_cell_of); }
     Object selection() { return in_active_window(selection_of); }
@@ -111,12 +116,14 @@ const MemberTable<ApplicationObject>& ApplicationObject::members() {
     using A = ApplicationObject;
     static const MemberTable<A> table({
         property<&A::active_cell>(u"ActiveCell"),
+        property<&A::active_chart>(u"ActiveChart"),
         property<&A::active_sheet>(u"ActiveSheet"),
         property<&A::active_window>(u"ActiveWindow"),
         property<&A::active_workbook>(u"ActiveWorkbook"),
         property<&A::application>(u"Application"),
         method<&A::calculate>(u"Calculate"),
         property<&A::cells>(u"Cells", {u"RowIndex", u"ColumnIndex"}),
+        method<&A::check_spelling>(u"CheckSpelling", {u"Word", u"CustomDictionary", u"IgnoreUppercase"}),
         property<&A::columns>(u"Columns", {u"Index"}),
         property<&A::command_bars>(u"CommandBars", {u"Index"}),
         method<&A::converted_formula>(

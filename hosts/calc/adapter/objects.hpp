@@ -19,6 +19,8 @@ Object make_windows(HostPointer host, std::optional<Book> book);
 Object make_sheets(Book book);
 Object make_sheets(Book book, std::vector<Sheet> chosen);
 Object make_worksheet(Sheet sheet);
+// The sheet of a worksheet that is given as an argument; raises 1004 when it is none.
+const Sheet& sheet_of(const Variant& value);
 Object make_range(RangeAreas areas);
 Object make_areas(RangeAreas areas);
 Object make_font(RangeAreas areas);
@@ -27,6 +29,10 @@ Object make_borders(RangeAreas areas);
 Object make_comment(Sheet sheet, css::table::CellAddress cell);
 Object make_comments(Sheet sheet);
 Object make_hyperlinks(RangeAreas areas);
+Object make_format_conditions(RangeAreas areas);
+Object make_shapes(Sheet sheet);
+Object make_chart_objects(Sheet sheet);
+Object make_ole_objects(Sheet sheet);
 Object make_command_bars(HostPointer host);
 Object make_worksheet_function(HostPointer host);
 
@@ -35,6 +41,8 @@ Object make_application(HostPointer host);
 
 // What the user has selected in this window; Nothing when it is no range of cells.
 Object selection_of(const Book& book, const Ref<css::frame::XController>& controller);
+// The chart whose object is selected in the workbook's current window; Nothing when none is.
+Object active_chart_of(const Book& book);
 Object active_cell_of(const Book& book, const Ref<css::frame::XController>& controller);
 
 }  // namespace qor::calc

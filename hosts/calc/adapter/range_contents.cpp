@@ -6,6 +6,7 @@
 #include "hosts/calc/adapter/cell_reader.hpp"
 #include "hosts/calc/adapter/cell_writer.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
+#include "hosts/calc/adapter/spelling.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
 
 namespace qor::calc {
@@ -100,6 +101,15 @@ Object RangeObject::add_comment(std::optional<std::u16string> text) {
 
 Object RangeObject::hyperlinks() {
     return make_hyperlinks(areas_);
+}
+
+Object RangeObject::format_conditions(const Variant& index) {
+    Object all = make_format_conditions(areas_);
+    return index.is_missing() ? all : Object(all.get(names::Item, index));
+}
+
+bool RangeObject::check_spelling() {
+    return qor::calc::check_spelling(areas_);
 }
 
 }  // namespace qor::calc

@@ -68,6 +68,8 @@ class RangeObject final : public CalcObject<RangeObject> {
     Object comment();
     Object add_comment(std::optional<std::u16string> text);
     Object hyperlinks();
+    Object format_conditions(const Variant& index);
+    bool check_spelling();
 
     // How they look (range_look.cpp).
     Variant number_format();

@@ -58,7 +58,10 @@ Sheet insert_sheets(const Book& book, std::int32_t place, std::int32_t count) {
 
 void rename_sheet(const Sheet& sheet, std::u16string_view name) {
     constexpr std::size_t longest_name = 31;
-    const auto refused = [] { throw Error(ErrorNumber::host_refused); };
+    const auto refused = [] {
+        throw Error(ErrorNumber::host_refused, {},
+                    u"While renaming a sheet, an invalid name was given, or one that another sheet has.");
+    };
     if (name.empty() || name.size() > longest_name) refused();
     if (name.find_first_of(u":\\/?*[]") != std::u16string_view::npos) refused();
     if (name.front() == u'\'' || name.back() == u'\'') refused();
@@ -71,11 +74,16 @@ void rename_sheet(const Sheet& sheet, std::u16string_view name) {
     move_sheet_marks(sheet.book, old_name, std::u16string(name));
 }
 
-void delete_sheet(const Sheet& sheet) {
+void require_other_visible_sheet(const Sheet& sheet) {
     const std::vector<Sheet> all = sheet.book.sheets();
     const auto visible =
         std::ranges::count_if(all, [](const Sheet& each) { return get_property<bool>(each.sheet, "IsVisible"); });
-    if (visible == 1 && get_property<bool>(sheet.sheet, "IsVisible")) throw Error(ErrorNumber::host_refused);
+    if (visible > 1 || !get_property<bool>(sheet.sheet, "IsVisible")) return;
+    throw Error(ErrorNumber::host_refused, {}, u"A workbook must contain at least one visible worksheet.");
+}
+
+void delete_sheet(const Sheet& sheet) {
+    require_other_visible_sheet(sheet);
     before_change(sheet.book);
     remove_from_book(sheet);
 }

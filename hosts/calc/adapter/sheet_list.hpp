@@ -11,5 +11,7 @@ namespace qor::calc {
 Sheet insert_sheets(const Book& book, std::int32_t place, std::int32_t count);
 void rename_sheet(const Sheet& sheet, std::u16string_view name);
 void delete_sheet(const Sheet& sheet);
+// Raises when the sheet is the only one of its workbook that can be seen.
+void require_other_visible_sheet(const Sheet& sheet);
 
 }  // namespace qor::calc

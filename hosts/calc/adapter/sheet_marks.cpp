@@ -18,6 +18,7 @@ constexpr char16_t protection_known = u'p';
 constexpr char16_t contents = u'c';
 constexpr char16_t drawing_objects = u'd';
 constexpr char16_t scenarios = u's';
+constexpr char16_t transition_form_entry = u't';
 
 using MarksByName = std::map<std::u16string, SheetMarks>;
 
@@ -31,14 +32,20 @@ bool is_stored(const Ref<css::beans::XPropertyContainer>& properties) {
     return info->hasPropertyByName(rtl::OUString::createFromAscii(property_name));
 }
 
-SheetMarks marks_from(std::u16string_view letters) {
+// The letters, and behind another slash the scroll area.
+SheetMarks marks_from(std::u16string_view text) {
+    const std::size_t slash = std::min(text.find(u'/'), text.size());
+    const std::u16string_view letters = text.substr(0, slash);
     const auto has = [&](char16_t letter) { return letters.find(letter) != std::u16string_view::npos; };
-    SheetMarks marks{.very_hidden = has(very_hidden), .protection = {}};
+    SheetMarks marks{.very_hidden = has(very_hidden),
+                     .protection = {},
+                     .transition_form_entry = has(transition_form_entry),
+                     .scroll_area = std::u16string(text.substr(std::min(slash + 1, text.size())))};
     if (has(protection_known)) marks.protection = {has(contents), has(drawing_objects), has(scenarios)};
     return marks;
 }
 
-std::u16string letters_of(const SheetMarks& marks) {
+std::u16string text_of(const SheetMarks& marks) {
     std::u16string letters;
     if (marks.very_hidden) letters += very_hidden;
     if (marks.protection) {
@@ -47,10 +54,12 @@ std::u16string letters_of(const SheetMarks& marks) {
         if (marks.protection->drawing_objects) letters += drawing_objects;
         if (marks.protection->scenarios) letters += scenarios;
     }
+    if (marks.transition_form_entry) letters += transition_form_entry;
+    if (!marks.scroll_area.empty()) letters.append(u"/").append(marks.scroll_area);
     return letters;
 }
 
-// One line a sheet: its name, a slash, which no name can hold, and the letters.
+// One line a sheet: its name, a slash, which no name can hold, and its marks.
 MarksByName read_all(const Book& book) {
     MarksByName result;
     const auto properties = user_properties(book);
@@ -61,7 +70,7 @@ MarksByName read_all(const Book& book) {
         const std::size_t end = std::min(text.find(u'\n'), text.size());
         const std::u16string_view line = text.substr(0, end);
         const std::size_t slash = std::min(line.find(u'/'), line.size());
-        result[std::u16string(line.substr(0, slash))] = marks_from(line.substr(slash));
+        result[std::u16string(line.substr(0, slash))] = marks_from(line.substr(std::min(slash + 1, line.size())));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return result;
@@ -70,7 +79,7 @@ MarksByName read_all(const Book& book) {
 void write_all(const Book& book, const MarksByName& all) {
     std::u16string text;
     for (const auto& [name, marks] : all) {
-        if (marks != SheetMarks{}) text.append(name).append(u"/").append(letters_of(marks)).append(u"\n");
+        if (marks != SheetMarks{}) text.append(name).append(u"/").append(text_of(marks)).append(u"\n");
     }
     const auto properties = user_properties(book);
     if (is_stored(properties)) {

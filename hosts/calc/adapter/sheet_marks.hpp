@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "hosts/calc/adapter/book.hpp"
 
@@ -18,6 +19,8 @@ struct SheetMarks {
 
     bool very_hidden = false;
     std::optional<Protection> protection;  // as it was asked for; none when the sheet came protected from a file
+    bool transition_form_entry = false;
+    std::u16string scroll_area;  // an address; empty when all cells can be reached
     bool operator==(const SheetMarks&) const = default;
 };
 

@@ -47,6 +47,7 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
         const Object all = make_sheets(book_);
         return index.is_missing() ? Variant(all) : all.get(names::Item, index);
     }
+    Object active_chart() { return active_chart_of(book_); }
     Object active_sheet() { return make_worksheet(book_.active_sheet()); }
 
     void activate() { book_.host->activate(book_.document); }
@@ -76,6 +77,7 @@ const MemberTable<WorkbookObject>& WorkbookObject::members() {
     using W = WorkbookObject;
     static const MemberTable<W> table({
         method<&W::activate>(u"Activate"),
+        property<&W::active_chart>(u"ActiveChart"),
         property<&W::active_sheet>(u"ActiveSheet"),
         property<&W::application>(u"Application"),
         method<&W::close>(u"Close", {u"SaveChanges", u"Filename"}),

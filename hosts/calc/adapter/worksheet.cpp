@@ -7,6 +7,9 @@
 #include "hosts/calc/adapter/selection.hpp"
 #include "hosts/calc/adapter/sheet_list.hpp"
 #include "hosts/calc/adapter/sheet_marks.hpp"
+#include "hosts/calc/adapter/sheet_print.hpp"
+#include "hosts/calc/adapter/sheet_transfer.hpp"
+#include "hosts/calc/adapter/spelling.hpp"
 #include "hosts/calc/adapter/used_area.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
 #include "hosts/calc/formula/notation.hpp"
@@ -30,6 +33,7 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
 
     static const MemberTable<WorksheetObject>& members();
 
+    const Sheet& sheet() const noexcept { return sheet_; }
     std::u16string place() const { return sheet_.name(); }
     void require_alive() const { sheet_.require_alive(); }
     // The office makes a new object each time that a sheet is asked for.
@@ -83,8 +87,12 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     void unprotect(std::optional<std::u16string> password) {
         before_change(sheet_.book);
         const Ref<css::util::XProtectable> protectable(sheet_.sheet);
-        if (protectable->isProtected()) protectable->unprotect(to_uno(password.value_or(u"")));
-        if (protectable->isProtected()) throw Error(ErrorNumber::host_refused);
+        if (protectable->isProtected()) {
+            attempt([&] { guarded([&] { protectable->unprotect(to_uno(password.value_or(u""))); }); });
+        }
+        if (protectable->isProtected()) {
+            throw Error(ErrorNumber::host_refused, {}, u"The password you supplied is not correct.");
+        }
         SheetMarks marks = sheet_marks(sheet_);
         marks.protection.reset();
         set_sheet_marks(sheet_, marks);
@@ -127,6 +135,52 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     }
     void select(std::optional<bool> replace) { select_sheets(sheet_.book, {sheet_.index()}, replace.value_or(true)); }
     void remove() { delete_sheet(sheet_); }
+    void copy(const Variant& before, const Variant& after) { copy_sheet(sheet_, place_named(before, after)); }
+    void move(const Variant& before, const Variant& after) { move_sheet(sheet_, place_named(before, after)); }
+    static std::optional<SheetPlace> place_named(const Variant& before, const Variant& after) {
+        if (!before.is_missing()) return SheetPlace{sheet_of(before).book, sheet_of(before).index()};
+        if (!after.is_missing()) return SheetPlace{sheet_of(after).book, sheet_of(after).index() + 1};
+        return {};
+    }
+
+    std::u16string scroll_area() { return sheet_marks(sheet_).scroll_area; }
+    void set_scroll_area(const std::u16string& text) {
+        SheetMarks marks = sheet_marks(sheet_);
+        marks.scroll_area.clear();
+        if (!text.empty()) {
+            const RangeAreas area = range_named(sheet_, text);
+            const bool one_here = area.areas.size() == 1 && area.sheet.index() == sheet_.index();
+            if (!one_here) throw Error(ErrorNumber::host_refused);
+            marks.scroll_area = address_of(area, {});
+        }
+        set_sheet_marks(sheet_, marks);
+    }
+
+    bool transition_form_entry() { return sheet_marks(sheet_).transition_form_entry; }
+    void set_transition_form_entry(bool on) {
+        SheetMarks marks = sheet_marks(sheet_);
+        marks.transition_form_entry = on;
+        set_sheet_marks(sheet_, marks);
+    }
+
+    Variant chart_objects(const Variant& index) { return item_or_all(make_chart_objects(sheet_), index); }
+    Variant ole_objects(const Variant& index) { return item_or_all(make_ole_objects(sheet_), index); }
+    Object shapes() { return make_shapes(sheet_); }
+    static Variant item_or_all(Object collection, const Variant& index) {
+        return index.is_missing() ? Variant(std::move(collection)) : collection.get(names::Item, index);
+    }
+
+    void check_spelling() { qor::calc::check_spelling(range_at(sheet_, whole_sheet)); }
+    void print_out(std::optional<std::int32_t> from, std::optional<std::int32_t> to, std::optional<std::int32_t> copies,
+                   const Variant&, std::optional<std::u16string> printer, const Variant&, std::optional<bool> collate,
+                   std::optional<std::u16string> file) {
+        print_sheet(sheet_, {.first_page = from,
+                             .last_page = to,
+                             .copies = copies.value_or(1),
+                             .collate = collate.value_or(true),
+                             .printer = printer,
+                             .file = file});
+    }
     void calculate() { make_application(sheet_.book.host).call(MemberName(u"Calculate")); }
 
     Object parent() { return make_workbook(sheet_.book); }
@@ -142,22 +196,32 @@ const MemberTable<WorksheetObject>& WorksheetObject::members() {
         property<&W::application>(u"Application"),
         method<&W::calculate>(u"Calculate"),
         property<&W::cells>(u"Cells", {u"RowIndex", u"ColumnIndex"}),
+        property<&W::chart_objects>(u"ChartObjects", {u"Index"}),
+        method<&W::check_spelling>(u"CheckSpelling"),
         property<&W::columns>(u"Columns", {u"Index"}),
         property<&W::comments>(u"Comments"),
+        method<&W::copy>(u"Copy", {u"Before", u"After"}),
         method<&W::remove>(u"Delete"),
         property<&W::hyperlinks>(u"Hyperlinks"),
         property<&W::index>(u"Index"),
+        method<&W::move>(u"Move", {u"Before", u"After"}),
         property<&W::name, &W::set_name>(u"Name"),
+        property<&W::ole_objects>(u"OLEObjects", {u"Index"}),
         property<&W::parent>(u"Parent"),
         method<&W::paste>(u"Paste", {u"Destination"}),
         method<&W::paste_special>(u"PasteSpecial", {u"Paste"}),
+        method<&W::print_out>(u"PrintOut", {u"From", u"To", u"Copies", u"Preview", u"ActivePrinter", u"PrintToFile",
+                                            u"Collate", u"PrToFileName"}),
         method<&W::protect>(u"Protect", {u"Password", u"DrawingObjects", u"Contents", u"Scenarios"}),
         property<&W::protect_contents>(u"ProtectContents"),
         property<&W::protect_drawing_objects>(u"ProtectDrawingObjects"),
         property<&W::protect_scenarios>(u"ProtectScenarios"),
         property<&W::range>(u"Range", {u"Cell1", u"Cell2"}),
         property<&W::rows>(u"Rows", {u"Index"}),
+        property<&W::scroll_area, &W::set_scroll_area>(u"ScrollArea"),
         method<&W::select>(u"Select", {u"Replace"}),
+        property<&W::shapes>(u"Shapes"),
+        property<&W::transition_form_entry, &W::set_transition_form_entry>(u"TransitionFormEntry"),
         method<&W::unprotect>(u"Unprotect", {u"Password"}),
         property<&W::used_range>(u"UsedRange"),
         property<&W::visible, &W::set_visible>(u"Visible"),
@@ -166,6 +230,12 @@ const MemberTable<WorksheetObject>& WorksheetObject::members() {
 }
 
 }  // namespace
+
+const Sheet& sheet_of(const Variant& value) {
+    const auto* worksheet = dynamic_cast<const WorksheetObject*>(value.object().target());
+    if (!worksheet) throw Error(ErrorNumber::host_refused);
+    return worksheet->sheet();
+}
 
 Object make_worksheet(Sheet sheet) {
     return make_object<WorksheetObject>(std::move(sheet));

@@ -1,0 +1,72 @@
+#include "hosts/calc/adapter/sheet_print.hpp"
+
+#include <com/sun/star/awt/PrinterServer.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/view/XPrintable.hpp>
+#include <filesystem>
+
+#include "hosts/calc/adapter/drawn_objects.hpp"
+#include "hosts/calc/adapter/file_paths.hpp"
+#include "hosts/calc/adapter/kept_view.hpp"
+#include "hosts/calc/adapter/selection.hpp"
+#include "hosts/calc/adapter/used_area.hpp"
+#include "hosts/calc/uno/property.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+PropertyValues sequence(const std::vector<css::beans::PropertyValue>& values) {
+    return {values.data(), static_cast<sal_Int32>(values.size())};
+}
+
+bool is_empty(const Sheet& sheet) {
+    const Rectangle used = used_area(sheet);
+    if (used.cells() > 1 || count_drawn_objects(sheet) > 0) return false;
+    return Ref(Ref<css::sheet::XCellRangesQuery>(cells_at(sheet, used))->queryEmptyCells())
+               ->getRangeAddresses()
+               .getLength() > 0;
+}
+
+std::u16string number(std::int32_t value) {
+    return from_utf8(std::to_string(value));
+}
+
+void require_printer(const HostPointer& host) {
+    const Ref server{css::awt::PrinterServer::create(host->context())};
+    if (server->getPrinterNames().getLength() > 0) return;
+    throw Error(ErrorNumber::host_refused, {}, u"No printers are installed.");
+}
+
+}  // namespace
+
+// The office prints the sheets that are selected.
+void print_sheet(const Sheet& sheet, const PrintOptions& options) {
+    const KeptView view(sheet.book);
+    select_sheets(sheet.book, {sheet.index()}, true);
+    if (is_empty(sheet)) return;
+    const Ref<css::view::XPrintable> printable(sheet.book.document);
+    std::vector<css::beans::PropertyValue> values{named_value("CopyCount", static_cast<sal_Int16>(options.copies)),
+                                                  named_value("Collate", options.collate), named_value("Wait", true)};
+    if (options.first_page || options.last_page) {
+        const std::u16string last = options.last_page ? number(*options.last_page) : std::u16string();
+        values.push_back(named_value("Pages", to_uno(number(options.first_page.value_or(1)) + u"-" + last)));
+    }
+    if (options.file) {
+        values.push_back(named_value("FileName", to_uno(address_of_path(*options.file))));
+    } else {
+        require_printer(sheet.book.host);
+    }
+    if (options.printer) {
+        const css::beans::PropertyValue name = named_value("Name", to_uno(*options.printer));
+        printable->setPrinter(sequence({name}));
+    }
+    printable->print(sequence(values));
+    std::error_code ignored;
+    if (options.file && !std::filesystem::is_regular_file(to_utf8(*options.file), ignored)) {
+        throw Error(ErrorNumber::host_refused, {}, u"'" + *options.file + u"' cannot be written.");
+    }
+}
+
+}  // namespace qor::calc
