@@ -15,11 +15,15 @@ void ToolRun::set_option(std::u16string_view name, std::u16string_view value) {
 }
 
 nlohmann::json ToolRun::call(std::u16string_view tool, const nlohmann::json& script) {
+    return call(tool, script, application);
+}
+
+nlohmann::json ToolRun::call(std::u16string_view tool, const nlohmann::json& script, const Object& host) {
     const MemberName member(tool);
     screen_.begin_call(script);
     {
         const UndoStep step(std::u16string(find_tool(member)->title));
-        com_.call(member, application);
+        com_.call(member, host);
     }
     return screen_.end_call();
 }

@@ -19,6 +19,8 @@ class ToolRun : public Calc {
 
     // Calls the tool as the session does, one undo step around it; answers what was shown.
     nlohmann::json call(std::u16string_view tool, const nlohmann::json& script);
+    // The same with the tool seeing `host` for the application. What it raises comes out.
+    nlohmann::json call(std::u16string_view tool, const nlohmann::json& script, const Object& host);
 
     Object active_sheet() const { return application.get(names::ActiveSheet); }
     Variant cell(std::int32_t row, std::int32_t column) const {

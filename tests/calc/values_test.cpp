@@ -210,4 +210,16 @@ TEST_CASE("arrays go in from the corner and are repeated or filled up") {
     CHECK(value(sheet, u"E1") == Variant(Empty{}));
 }
 
+TEST_CASE("a cell that went back to General shows a date again") {
+    const Calc calc;
+    const Object cell = calc.add_sheet().get(names::Range, u"A1");
+    cell.put(names::Value, Date{45000});
+    cell.put(names::NumberFormat, u"General");
+    CHECK(cell.get(names::Value) == 45000.0);
+    CHECK(cell.get(names::NumberFormat) == u"General");
+    cell.put(names::Value, Date{45001});
+    CHECK(cell.get(names::Value) == Variant(Date{45001}));
+    CHECK(cell.get(names::NumberFormat) == u"m/d/yyyy");
+}
+
 }  // namespace qor::calc::tests

@@ -32,11 +32,18 @@ void write_values(const RangeAreas& areas, const Variant& value) {
 void write_array_formula(const RangeAreas& areas, const std::u16string& formula) {
     const CellEntry entry = entry_of(formula, areas.sheet, 0);
     if (entry.way != CellEntry::Way::formula) return write_values(areas, formula);
+    const UndoStep step(u"Input");
     before_writing(areas);
-    const Ref<css::sheet::XArrayFormulaRange> cells(areas.areas.front());
-    cells->setArrayFormula(to_uno(std::get<std::u16string>(entry.content)));
-    // A refusal is silent.
-    if (cells->getArrayFormula().isEmpty()) throw Error(ErrorNumber::host_refused);
+    const ContentsBefore before(areas.sheet, areas.areas.front());
+    try {
+        const Ref<css::sheet::XArrayFormulaRange> cells(areas.areas.front());
+        cells->setArrayFormula(to_uno(std::get<std::u16string>(entry.content)));
+        // A refusal is silent.
+        if (cells->getArrayFormula().isEmpty()) throw Error(ErrorNumber::host_refused);
+    } catch (...) {
+        attempt([&] { guarded([&] { before.put_back(); }); });
+        throw;
+    }
 }
 
 void clear_contents(const RangeAreas& areas) {

@@ -10,6 +10,7 @@
 
 #include "hosts/calc/adapter/configuration.hpp"
 #include "hosts/calc/adapter/function_names.hpp"
+#include "hosts/calc/uno/guarded.hpp"
 
 namespace qor::calc {
 namespace {
@@ -130,17 +131,39 @@ const FormulaTranslator& Host::translator() {
 
 void Host::set_screen_updating(bool on) {
     if (on == screen_updating_) return;
-    screen_updating_ = on;
-    if (!on) {
-        locked_ = documents();
-        for (const Document& document : locked_) Ref<css::frame::XModel>(document)->lockControllers();
-        return;
+    if (on) {
+        unlock_screens();
+    } else {
+        lock_screens();
     }
-    const std::vector<Document> open = documents();
+    screen_updating_ = on;
+}
+
+void Host::lock_screens() {
+    try {
+        for (const Document& document : documents()) {
+            Ref<css::frame::XModel>(document)->lockControllers();
+            locked_.push_back(document);
+        }
+    } catch (...) {
+        unlock_screens();
+        throw;
+    }
+}
+
+void Host::unlock_screens() {
     for (const Document& document : std::exchange(locked_, {})) {
-        const bool still_open = std::ranges::find(open, document) != open.end();
         const Ref<css::frame::XModel> model(document);
-        if (still_open && model->hasControllersLocked()) model->unlockControllers();
+        const auto unlock = [&] {
+            return attempt([&] {
+                       guarded([&] {
+                           if (model->hasControllersLocked()) model->unlockControllers();
+                       });
+                   }) == 0;
+        };
+        // A screen must not stand still for ever, so one failure is not believed. A workbook that is closed fails
+        // twice.
+        if (!unlock()) unlock();
     }
 }
 

@@ -66,6 +66,9 @@ class Host : public std::enable_shared_from_this<Host> {
     } copied;
 
   private:
+    void lock_screens();
+    void unlock_screens();
+
     css::uno::Reference<css::uno::XComponentContext> context_;
     std::shared_ptr<HostUser> user_;
     std::u16string companion_folder_;

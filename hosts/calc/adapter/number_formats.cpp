@@ -44,7 +44,8 @@ void apply_to_unformatted(const Sheet& sheet, const Cells& cells, NumberKind kin
         Ref{Ref<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges()});
     for (sal_Int32 i = 0, count = looks->getCount(); i < count; ++i) {
         const Ref<css::uno::XInterface> places(looks->getByIndex(i));
-        if (get_property<sal_Int32>(places, "NumberFormat") == general) set_property(places, "NumberFormat", key);
+        if (is_general_format(get_property<sal_Int32>(places, "NumberFormat")))
+            set_property(places, "NumberFormat", key);
     }
 }
 
@@ -55,7 +56,7 @@ void apply(const Sheet& sheet, const Rectangle& run, NumberKind kind) {
     if (keeps_formats) {
         const auto state = Ref<css::beans::XPropertyState>(cells)->getPropertyState("NumberFormat");
         if (state == css::beans::PropertyState_AMBIGUOUS_VALUE) return apply_to_unformatted(sheet, cells, kind);
-        if (get_property<sal_Int32>(cells, "NumberFormat") != general) return;
+        if (!is_general_format(get_property<sal_Int32>(cells, "NumberFormat"))) return;
     }
     set_property(cells, "NumberFormat", number_format_key(sheet.book, code_of(kind)));
 }
@@ -102,7 +103,7 @@ std::int32_t number_format_key(const Book& book, std::u16string_view code) {
 }
 
 std::u16string number_format_code(const Book& book, std::int32_t key) {
-    if (key == general) return u"General";
+    if (is_general_format(key)) return u"General";
     const Ref format{formats_of(book)->getByKey(key)};
     const auto code = get_property<rtl::OUString>(format, "FormatString");
     return in_notation_of_excel(view_of(code));

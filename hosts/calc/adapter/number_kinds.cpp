@@ -14,8 +14,13 @@
 
 namespace qor::calc {
 
+bool is_general_format(std::int32_t format_key) {
+    constexpr std::int32_t keys_of_one_language = 10000;  // General is the first of them
+    return format_key % keys_of_one_language == 0;
+}
+
 NumberKind kind_of_format(const Sheet& sheet, std::int32_t format_key) {
-    if (format_key == 0) return NumberKind::plain;
+    if (is_general_format(format_key)) return NumberKind::plain;
     namespace type = css::util::NumberFormat;
     const Ref formats{Ref<css::util::XNumberFormatsSupplier>(sheet.book.document)->getNumberFormats()};
     const auto bits = get_property<sal_Int16>(Ref{formats->getByKey(format_key)}, "Type");

@@ -14,6 +14,8 @@ struct KindOfCells {
 
 // The cells of a range whose numbers are more than plain ones.
 std::vector<KindOfCells> number_kinds(const Sheet& sheet, const Cells& cells);
+// Whether it is the format that cells have from the start. The office has one in each language, and may answer any.
+bool is_general_format(std::int32_t format_key);
 NumberKind kind_of_format(const Sheet& sheet, std::int32_t format_key);
 
 // Days from 30 December 1899 to the day that the workbook counts from.

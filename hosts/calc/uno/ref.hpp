@@ -1,6 +1,7 @@
 #pragma once
 
 #include <com/sun/star/uno/Reference.hxx>
+#include <com/sun/star/uno/RuntimeException.hpp>
 #include <com/sun/star/uno/XInterface.hpp>
 #include <cstdint>
 
@@ -13,6 +14,8 @@ namespace qor::calc {
 // How many calls have been made through Ref since the process started: the measure of a tool's cost that does not
 // depend on the machine.
 inline std::uint64_t host_calls = 0;
+// The call of this number fails before it reaches the office, as any may: tests set it. 0: none.
+inline std::uint64_t failing_host_call = 0;
 
 // A reference to an interface of the office. A call through an empty one raises 1004: the office answers null where it
 // refuses.
@@ -28,7 +31,7 @@ class Ref {
 
     Interface* operator->() const {
         if (!reference_.is()) throw Error(ErrorNumber::host_refused);
-        ++host_calls;
+        if (++host_calls == failing_host_call) throw css::uno::RuntimeException("The call fails for a test.");
         return reference_.get();
     }
     explicit operator bool() const noexcept { return reference_.is(); }
