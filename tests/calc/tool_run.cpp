@@ -14,16 +14,19 @@ void ToolRun::set_option(std::u16string_view name, std::u16string_view value) {
     REQUIRE(settings_.write(u"Options", name, value));
 }
 
-nlohmann::json ToolRun::call(std::u16string_view tool, const nlohmann::json& script) {
-    return call(tool, script, application);
+nlohmann::json ToolRun::call(std::u16string_view command, const nlohmann::json& script, std::vector<Variant> more) {
+    return call(command, script, application, std::move(more));
 }
 
-nlohmann::json ToolRun::call(std::u16string_view tool, const nlohmann::json& script, const Object& host) {
-    const MemberName member(tool);
+nlohmann::json ToolRun::call(std::u16string_view command, const nlohmann::json& script, const Object& host,
+                             std::vector<Variant> more) {
+    const MemberName member(command);
+    const Tool* tool = find_tool(member);
+    more.insert(more.begin(), host);
     screen_.begin_call(script);
     {
-        const UndoStep step(std::u16string(find_tool(member)->title));
-        com_.call(member, host);
+        const UndoStep step(std::u16string(tool ? tool->title : command));
+        com_.invoke(member, Access::call, {more, {}});
     }
     return screen_.end_call();
 }

@@ -17,10 +17,15 @@ class ToolRun : public Calc {
 
     void set_option(std::u16string_view name, std::u16string_view value);
 
-    // Calls the tool as the session does, one undo step around it; answers what was shown.
-    nlohmann::json call(std::u16string_view tool, const nlohmann::json& script);
-    // The same with the tool seeing `host` for the application. What it raises comes out.
-    nlohmann::json call(std::u16string_view tool, const nlohmann::json& script, const Object& host);
+    // Calls the command as the session does, one undo step around it; answers what was shown. What is given besides
+    // comes behind the application.
+    nlohmann::json call(std::u16string_view command, const nlohmann::json& script = nlohmann::json::object(),
+                        std::vector<Variant> more = {});
+    // The same with the command seeing `host` for the application. What it raises comes out.
+    nlohmann::json call(std::u16string_view command, const nlohmann::json& script, const Object& host,
+                        std::vector<Variant> more = {});
+    // The automation object.
+    const Object& com() const { return com_; }
 
     Object active_sheet() const { return application.get(names::ActiveSheet); }
     Variant cell(std::int32_t row, std::int32_t column) const {

@@ -5,13 +5,14 @@
 
 #include "automation/error.hpp"
 #include "hosts/calc/uno/text.hpp"
+#include "platform/files.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
 
 std::u16string full_path(const std::u16string& path) {
     std::error_code ignored;
-    const std::filesystem::path absolute = std::filesystem::absolute(to_utf8(path), ignored);
+    const std::filesystem::path absolute = std::filesystem::absolute(native_path(path), ignored);
     return from_utf8(absolute.lexically_normal().string());
 }
 

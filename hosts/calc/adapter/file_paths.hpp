@@ -5,7 +5,7 @@
 
 namespace qor::calc {
 
-// The absolute path that a text means; relative ones start from the current folder.
+// The absolute path that a text means, with either separator; relative ones start from the current folder.
 std::u16string full_path(const std::u16string& path);
 std::u16string file_name_of(std::u16string_view path);
 // The system's path of a file's address and the reverse; an address that is no file's stays as it is.
