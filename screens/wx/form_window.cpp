@@ -48,7 +48,6 @@ FormWindow::FormWindow(Form& form, const Layouts& layouts, wxWindow* parent) : f
     dialog_->SetTitle(to_wx(form.caption()));
     dialog_->GetSizer()->SetSizeHints(dialog_.get());
     split(*dialog_);
-    dialog_->CentreOnParent();
     focus_first();
     for (const auto& bound : bound_) {
         bound->control->changed = [this, weak = std::weak_ptr<Bound>(bound)] {

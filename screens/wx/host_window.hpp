@@ -1,29 +1,16 @@
 #pragma once
 
-#include <wx/nativewin.h>
-#include <wx/weakref.h>
-
-#include <cstdint>
+#include <wx/dialog.h>
 
 #include "screens/wx/native_window.hpp"
 
 namespace qor::wx {
 
-// The host's window as one of the toolkit's.
-class HostWindow {
-  public:
-    explicit HostWindow(NativeWindow native) : native_(std::move(native)) {}
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
-    ~HostWindow();
+// Has a dialog without a parent stand over the host's window, in its middle; where there is none, in the middle of the
+// display.
+void stand_over_host(wxDialog& dialog, const NativeWindow& host);
 
-    // Null where the host has no window, or none of the toolkit's kind.
-    wxWindow* window();
-
-  private:
-    NativeWindow native_;
-    std::uintptr_t handle_ = 0;
-    wxWeakRef<wxNativeContainerWindow> window_;  // goes with the native window
-};
+// Has a dialog that is not shown yet stand in the middle of its parent.
+void stand_over_parent(wxDialog& dialog);
 
 }  // namespace qor::wx

@@ -31,6 +31,7 @@ class ControlHandler final : public wxXmlResourceHandler {
                           .flat = GetBool("flat")};
         const wxString name = GetName();
         Binding& binding = make_(from_wx(name), m_parentAsWindow, hints);
+        SetupWindow(&binding.window());
         binding.window().SetName(name);
         CreateChildren(&binding.inside());
         binding.completed();

@@ -2,6 +2,7 @@
 
 #include <wx/app.h>
 
+#include "screens/wx/host_window.hpp"
 #include "screens/wx/system_dialog.hpp"
 #include "screens/wx/toolkit.hpp"
 
@@ -36,19 +37,26 @@ wx::FormWindow* WxScreen::window_of(const Form& form) const {
 std::shared_ptr<wx::FormWindow> WxScreen::make_window(Form& form, wxWindow* parent) {
     const auto place = windows_.find(&form);
     if (place != windows_.end()) return place->second;
-    return windows_.emplace(&form, std::make_shared<wx::FormWindow>(form, layouts_, parent)).first->second;
+    const auto window = std::make_shared<wx::FormWindow>(form, layouts_, parent);
+    if (parent) {
+        wx::stand_over_parent(window->dialog());
+    } else {
+        wx::stand_over_host(window->dialog(), host_window_);
+    }
+    windows_.emplace(&form, window);
+    return window;
 }
 
-// The window of the form if it is to be seen, else the uppermost dialog, else the host's window.
-wxWindow* WxScreen::parent_for(const Form* owner) {
+// The window of the form if it is to be seen, else the uppermost dialog; null where there is none but the host's.
+wxWindow* WxScreen::parent_for(const Form* owner) const {
     if (owner) {
         const wx::FormWindow* window = window_of(*owner);
         if (window && window->dialog().IsShown()) return &window->dialog();
     }
-    wxWindow* uppermost = host_window_.window();
-    for (const wxWindow* window : wxTopLevelWindows) {
+    wxWindow* uppermost = nullptr;
+    for (wxWindow* window : wxTopLevelWindows) {
         const auto* dialog = dynamic_cast<const wxDialog*>(window);
-        if (dialog && dialog->IsModal() && dialog->IsShown()) uppermost = const_cast<wxDialog*>(dialog);
+        if (dialog && dialog->IsModal() && dialog->IsShown()) uppermost = window;
     }
     return uppermost;
 }
@@ -61,6 +69,8 @@ void WxScreen::show_modal(Form& form) {
 
 int WxScreen::run(wxDialog& dialog) {
     const Modal modal(*this, [&dialog] { wx::cancel_system_dialog(dialog); });
+    // Some have no window before they are shown.
+    if (!dialog.GetParent()) wxTheApp->CallAfter([&] { wx::stand_over_host(dialog, host_window_); });
     return dialog.ShowModal();
 }
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "screens/wx/form_window.hpp"
-#include "screens/wx/host_window.hpp"
+#include "screens/wx/native_window.hpp"
 #include "ui/screen.hpp"
 
 class wxDialog;
@@ -41,11 +41,11 @@ class WxScreen final : public Screen {
     wx::FormWindow* window_of(const Form& form) const;  // null for a form without one
 
     std::shared_ptr<wx::FormWindow> make_window(Form& form, wxWindow* parent);
-    wxWindow* parent_for(const Form* owner);
+    wxWindow* parent_for(const Form* owner) const;
     int run(wxDialog& dialog);
     void close_soon();
 
-    wx::HostWindow host_window_;
+    NativeWindow host_window_;
     wx::Layouts layouts_;
     std::map<const Form*, std::shared_ptr<wx::FormWindow>> windows_;
     std::vector<std::function<void()>> modal_;  // how to cancel each dialog that is open, the uppermost last

@@ -157,7 +157,7 @@ TEST_CASE_FIXTURE(EveryKind, "every message box offers its buttons, and its defa
                 answer = screen.message_box(
                     {.title = u"Ask", .text = u"What?", .buttons = each.buttons, .default_button = each.chosen});
             },
-            screen,
+            close,
             [](User& user) {
                 REQUIRE(user.sees_dialog("Ask"));
                 user.key("Return");

@@ -4,6 +4,7 @@
 
 #include "platform/text.hpp"
 #include "screens/wx/layout.hpp"
+#include "screens/wx/wx_screen.hpp"
 #include "tests/window/display.hpp"
 #include "tests/wx/every_kind.hpp"
 #include "tests/wx/user.hpp"
@@ -22,8 +23,9 @@ struct OnDisplay {
 struct EveryKind : OnDisplay {
     WxScreen screen{{}, wx::test_layouts()};
     frmEveryKind form{screen};
+    CloseDialogs close = [this] { screen.close_all(); };
 
-    void show(const std::function<void(User&)>& script) { tests::show(form, screen, script); }
+    void show(const std::function<void(User&)>& script) { tests::show(form, close, script); }
 };
 
 }  // namespace qor::tests

@@ -24,6 +24,15 @@ using namespace std::chrono_literals;
 
 constexpr auto patience = 10s;
 
+// A host starts it with the first dialog.
+void wait_for_toolkit() {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (!wxTheApp || !wxTheApp->GetTraits()) {
+        if (std::chrono::steady_clock::now() > end) throw std::runtime_error("no window came");
+        std::this_thread::sleep_for(10ms);
+    }
+}
+
 wxWindow* find_in(wxWindow* window, const wxString& name) {
     return wxWindow::FindWindowByName(name, window);
 }
@@ -165,7 +174,7 @@ std::string User::shown_text(const std::string& control) {
     return text;
 }
 
-void play(const std::function<void()>& command, WxScreen& screen, const std::function<void(User&)>& script) {
+void play(const std::function<void()>& command, const CloseDialogs& close, const std::function<void(User&)>& script) {
     std::exception_ptr failure;
     std::exception_ptr raised;
     std::atomic<bool> command_over = false;
@@ -173,12 +182,13 @@ void play(const std::function<void()>& command, WxScreen& screen, const std::fun
     std::thread thread([&] {
         User user;
         try {
+            wait_for_toolkit();
             script(user);
         } catch (...) {
             failure = std::current_exception();
         }
         while (!command_over) {
-            user.on_screen([&] { screen.close_all(); });
+            user.on_screen(close);
             std::this_thread::sleep_for(20ms);
         }
         script_over = true;
@@ -198,7 +208,7 @@ void play(const std::function<void()>& command, WxScreen& screen, const std::fun
     if (failure) std::rethrow_exception(failure);
 }
 
-void show(Form& form, WxScreen& screen, const std::function<void(User&)>& script) {
+void show(Form& form, const CloseDialogs& close, const std::function<void(User&)>& script) {
     play([&] { form.show_modal(); }, screen,
          [&](User& user) {
              if (!user.sees_dialog(to_utf8(form.caption()))) throw std::runtime_error("the dialog did not open");

@@ -5,7 +5,6 @@
 #include <functional>
 #include <string>
 
-#include "screens/wx/wx_screen.hpp"
 #include "ui/form.hpp"
 
 namespace qor::tests {
@@ -45,10 +44,12 @@ Window& window_of(const std::string& control) {
     return *window;
 }
 
-// Shows the form modally while the user plays; a form that is still open then is cancelled. Raises what the form
-// raises, and what the user's script raises.
-void show(Form& form, WxScreen& screen, const std::function<void(User&)>& script);
+using CloseDialogs = std::function<void()>;
+
+// Shows the form modally while the user plays; a form that is still open then is closed. Raises what the form raises,
+// and what the user's script raises.
+void show(Form& form, const CloseDialogs& close, const std::function<void(User&)>& script);
 // The same for anything that shows windows.
-void play(const std::function<void()>& command, WxScreen& screen, const std::function<void(User&)>& script);
+void play(const std::function<void()>& command, const CloseDialogs& close, const std::function<void(User&)>& script);
 
 }  // namespace qor::tests

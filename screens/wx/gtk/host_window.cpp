@@ -1,26 +1,50 @@
 #include "screens/wx/host_window.hpp"
 
-#include <wx/log.h>
+#include <gdk/gdkx.h>
+#include <gtk/gtk.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace qor::wx {
+namespace {
 
-HostWindow::~HostWindow() {
-    delete window_.get();
+std::vector<GtkWindow*> top_windows() {
+    std::vector<GtkWindow*> windows;
+    const std::unique_ptr<GList, decltype(&g_list_free)> list(gtk_window_list_toplevels(), g_list_free);
+    for (const GList* at = list.get(); at; at = at->next) windows.push_back(static_cast<GtkWindow*>(at->data));
+    return windows;
 }
 
-wxWindow* HostWindow::window() {
-    const std::uintptr_t handle = native_ ? native_() : 0;
-    if (handle != handle_ || !window_) {
-        delete window_.get();
-        handle_ = handle;
-        if (handle == 0) return nullptr;
-        const wxLogNull silent;
-        auto window = std::make_unique<wxNativeContainerWindow>();
-        if (window->Create(static_cast<wxNativeContainerWindowId>(handle))) window_ = window.release();
-    }
-    return window_.get();
+std::uintptr_t handle_of(GtkWindow* window) {
+    GdkWindow* drawn = gtk_widget_get_window(GTK_WIDGET(window));
+    return drawn && GDK_IS_X11_WINDOW(drawn) ? gdk_x11_window_get_xid(drawn) : 0;
+}
+
+// The host draws by the same GTK in the same process, so its window is one of ours to GTK.
+GtkWindow* host_window(const NativeWindow& host) {
+    const std::uintptr_t handle = host ? host() : 0;
+    if (handle == 0) return nullptr;
+    const auto windows = top_windows();
+    const auto found = std::ranges::find(windows, handle, handle_of);
+    return found == windows.end() ? nullptr : *found;
+}
+
+}  // namespace
+
+void stand_over_host(wxDialog& dialog, const NativeWindow& host) {
+    auto* window = GTK_WINDOW(dialog.GetHandle());
+    GtkWindow* owner = host_window(host);
+    // The toolkit would look for a parent among its own windows.
+    dialog.SetWindowStyleFlag(dialog.GetWindowStyleFlag() | wxDIALOG_NO_PARENT);
+    gtk_window_set_transient_for(window, owner);
+    gtk_window_set_position(window, owner ? GTK_WIN_POS_CENTER_ON_PARENT : GTK_WIN_POS_CENTER);
+}
+
+void stand_over_parent(wxDialog& dialog) {
+    gtk_window_set_position(GTK_WINDOW(dialog.GetHandle()), GTK_WIN_POS_CENTER_ON_PARENT);
 }
 
 }  // namespace qor::wx

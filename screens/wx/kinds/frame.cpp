@@ -14,12 +14,13 @@ class FrameBinding final : public Binding {
   public:
     FrameBinding(const Frame& frame, const Place& place) : window_(new wxPanel(place.parent)), inside_(window_) {
         if (dynamic_cast<wxNotebook*>(place.parent)) return;
-        auto* caption = new wxStaticText(window_, wxID_ANY, to_wx(frame.caption()));
+        auto* caption = new wxStaticText(window_, wxID_ANY, {});
         caption->SetFont(caption->GetFont().Bold());
+        caption->SetLabel(to_wx(frame.caption()));
         inside_ = new wxPanel(window_);
         auto* sizer = new wxBoxSizer(wxVERTICAL);
         const int gap = caption->GetCharWidth();
-        sizer->Add(caption, wxSizerFlags().Border(wxBOTTOM, gap / 2));
+        sizer->Add(caption, wxSizerFlags().Expand().Border(wxBOTTOM, gap / 2));
         sizer->Add(inside_, wxSizerFlags(1).Expand().Border(wxLEFT, 2 * gap));
         window_->SetSizer(sizer);
     }

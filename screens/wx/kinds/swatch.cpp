@@ -1,11 +1,15 @@
 #include <wx/button.h>
 
+#include <cmath>
+
 #include "screens/wx/colours.hpp"
 #include "screens/wx/kinds/kinds.hpp"
 #include "screens/wx/text.hpp"
 
 namespace qor::wx {
 namespace {
+
+constexpr double readable_difference = 0.35;  // of luminance, from 0 to 1
 
 class SwatchBinding final : public Binding {
   public:
@@ -19,8 +23,12 @@ class SwatchBinding final : public Binding {
     }
     wxWindow& window() const override { return *window_; }
     void show_model() override {
-        const wxColour back = to_wx(swatch_.back_color());
-        const wxColour fore = to_wx(swatch_.fore_color());
+        wxColour back = to_wx(swatch_.back_color());
+        wxColour fore = to_wx(swatch_.fore_color());
+        if (std::abs(back.GetLuminance() - fore.GetLuminance()) < readable_difference) {
+            // One of the two is what the swatch stands for: the other one gives way.
+            (back == *wxWHITE ? back : fore) = readable_on(back == *wxWHITE ? fore : back);
+        }
         if (window_->GetBackgroundColour() != back) window_->SetBackgroundColour(back);
         if (window_->GetForegroundColour() != fore) window_->SetForegroundColour(fore);
     }

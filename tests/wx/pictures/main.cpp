@@ -8,8 +8,11 @@
 #include <iostream>
 #include <thread>
 
+#include "core/frmAbout.hpp"
+#include "core/frmOptions.hpp"
 #include "reports/frmWKSum.hpp"
 #include "screens/wx/text.hpp"
+#include "screens/wx/wx_screen.hpp"
 #include "services/frmComplete.hpp"
 #include "tests/reports/report_host.hpp"
 #include "tests/window/display.hpp"
@@ -43,24 +46,28 @@ class Album {
 
     void take(
         Form& form, const std::function<void(User&)>& prepare = [](User&) {}) {
-        show(form, *screen_, [&](User& user) {
-            prepare(user);
-            take_now(form, user);
-        });
+        show(
+            form, [this] { screen_->close_all(); },
+            [&](User& user) {
+                prepare(user);
+                take_now(form, user);
+            });
     }
 
-    void take_now(const Form& form, User& user) const {
+    void take_now(const Form& form, User& user, const std::string& part = {}) const {
+        hand::move(0, 0);
         std::this_thread::sleep_for(std::chrono::milliseconds(500));  // buttons fade in
-        user.on_screen([&] { keep(form); });
+        user.on_screen([&] { keep(form, part); });
     }
 
     // As it is to be seen now.
-    void keep(const Form& form) const {
+    void keep(const Form& form, const std::string& part = {}) const {
         for (const wxWindow* top : wxTopLevelWindows) {
             const auto* dialog = dynamic_cast<const wxDialog*>(top);
             if (!dialog || !dialog->IsShown() || dialog->GetTitle() != wx::to_wx(form.caption())) continue;
             const wxRect area = dialog->GetScreenRect();
-            hand::take_picture(area.x, area.y, area.width, area.height, folder_ / (to_utf8(form.name()) + ".png"));
+            hand::take_picture(area.x, area.y, area.width, area.height,
+                               folder_ / (to_utf8(form.name()) + part + ".png"));
         }
     }
 
@@ -98,6 +105,26 @@ void take_complete(Album& album) {
     form.unload();
 }
 
+void take_about(Album& album) {
+    frmAbout form;
+    form.AppTitle = u"QOR Plus";
+    album.take(form);
+}
+
+// One picture a tab.
+void take_options(Album& album) {
+    frmOptions form;
+    form.AppTitle = u"QOR Plus: Options";
+    show(
+        form, [&] { album.screen().close_all(); },
+        [&](User& user) {
+            for (std::size_t tab = 0; tab < form.tabOptions.captions().size(); ++tab) {
+                user.on_screen([&] { form.tabOptions.turn_to(static_cast<int>(tab)); });
+                album.take_now(form, user, "-" + std::to_string(tab));
+            }
+        });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -112,6 +139,8 @@ int main(int argc, char** argv) {
         Album album{argv[1]};
         take_worksheet_summary(album);
         take_complete(album);
+        take_about(album);
+        take_options(album);
         frmEveryKind every_kind(album.screen());
         album.take(every_kind);
     } catch (const std::exception& error) {
