@@ -1,16 +1,18 @@
 #include "hosts/calc/adapter/application.hpp"
 
-#include <pwd.h>
-#include <unistd.h>
-
 #include <com/sun/star/sheet/XCalculatable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 
+#include "hosts/calc/adapter/application_dialogs.hpp"
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/configuration.hpp"
 #include "hosts/calc/adapter/convert_formula.hpp"
+#include "hosts/calc/adapter/macro_options.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/recent_file_list.hpp"
+#include "hosts/calc/adapter/reference_style_setting.hpp"
 #include "hosts/calc/adapter/spelling.hpp"
+#include "hosts/calc/adapter/user_name.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -70,25 +72,52 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
         return make_worksheet(active_book(host_).active_sheet()).get(names::Columns, index);
     }
 
-    // The name in the user's profile, else the one of the login.
-    std::u16string user_name() {
-        const Configuration user(host_->context(), u"/org.openoffice.UserProfile/Data");
-        const std::u16string given = user.text("givenname");
-        const std::u16string family = user.text("sn");
-        if (!given.empty() && !family.empty()) return given + u" " + family;
-        if (!given.empty() || !family.empty()) return given + family;
-        const passwd* account = ::getpwuid(::geteuid());
-        return from_utf8(account ? account->pw_name : "");
-    }
+    std::u16string login_name() { return user_name(*host_); }
 
     std::u16string version() {
         return Configuration(host_->context(), u"/org.openoffice.Setup/Product").text("ooSetupVersion");
     }
     std::u16string name() { return host_->name(); }
 
-    void help(const Variant& file, const Variant&) {
-        throw Error(ErrorNumber::host_refused, {},
-                    u"The help file " + (file.is_missing() ? std::u16string() : to_text(file)) + u" cannot be opened.");
+    void help(std::optional<std::u16string> page, std::optional<std::int32_t> place) {
+        show_help(*host_, page.value_or(u""), place.value_or(0));
+    }
+    Variant save_as_filename(std::optional<std::u16string> initial, std::optional<std::u16string> filter,
+                             std::optional<std::int32_t> filter_index, std::optional<std::u16string> title) {
+        return get_save_as_filename(*host_, initial.value_or(u""), filter.value_or(u"All Files (*.*),*.*"),
+                                    filter_index.value_or(1), title.value_or(u"Save As"));
+    }
+    // Places and help of the box come between the proposal and the type.
+    Variant ask(const std::u16string& prompt, std::optional<std::u16string> title, const Variant& proposed,
+                const Variant&, const Variant&, const Variant&, const Variant&, std::optional<std::int32_t> type) {
+        constexpr std::int32_t text_type = 2;
+        return input_box(host_, prompt, title.value_or(u"Input"), proposed, type.value_or(text_type));
+    }
+    void macro_options(const std::u16string& macro) { require_macro(*host_, macro); }
+
+    Variant defined_names(const Variant& index) { return item_or_all(make_names(active_book(host_)), index); }
+    Variant recent_files(const Variant& index) { return item_or_all(make_recent_files(host_), index); }
+    bool display_recent_files() { return recent_file_limit(*host_) > 0; }
+    void set_display_recent_files(bool shown) {
+        constexpr std::int32_t usual = 25;
+        if (shown != display_recent_files()) set_recent_file_limit(*host_, shown ? usual : 0);
+    }
+    Object this_workbook() { return make_companion_book(host_); }
+
+    std::int32_t style_of_references() { return static_cast<std::int32_t>(reference_style(*host_)); }
+    void set_style_of_references(std::int32_t style) {
+        const auto wanted = static_cast<ReferenceStyle>(style);
+        const bool known = wanted == ReferenceStyle::letters || wanted == ReferenceStyle::row_column;
+        if (!known) throw Error(ErrorNumber::host_refused);
+        set_reference_style(*host_, wanted);
+    }
+
+    Variant status_bar() { return host_->status_bar.text(); }
+    // False gives the bar back to the office.
+    void set_status_bar(const Variant& text) {
+        const auto* shown = text.get_if<bool>();
+        if (shown && !*shown) return host_->status_bar.give_back();
+        host_->status_bar.show(to_text(text), host_->active_window().controller);
     }
 
     bool screen_updating() { return host_->screen_updating(); }
@@ -129,15 +158,28 @@ const MemberTable<ApplicationObject>& ApplicationObject::members() {
         method<&A::converted_formula>(
             u"ConvertFormula", {u"Formula", u"FromReferenceStyle", u"ToReferenceStyle", u"ToAbsolute", u"RelativeTo"}),
         property<&A::display_alerts, &A::set_display_alerts>(u"DisplayAlerts"),
+        property<&A::display_recent_files, &A::set_display_recent_files>(u"DisplayRecentFiles"),
+        method<&A::save_as_filename>(u"GetSaveAsFilename",
+                                     {u"InitialFilename", u"FileFilter", u"FilterIndex", u"Title", u"ButtonText"}),
         method<&A::help>(u"Help", {u"HelpFile", u"HelpContextID"}),
+        method<&A::ask>(u"InputBox",
+                        {u"Prompt", u"Title", u"Default", u"Left", u"Top", u"HelpFile", u"HelpContextID", u"Type"}),
+        method<&A::macro_options>(u"MacroOptions",
+                                  {u"Macro", u"Description", u"HasMenu", u"MenuText", u"HasShortcutKey", u"ShortcutKey",
+                                   u"Category", u"StatusBar", u"HelpContextID", u"HelpFile"}),
         property<&A::name>(u"Name"),
+        property<&A::defined_names>(u"Names", {u"Index"}),
         property<&A::application>(u"Parent"),
         property<&A::range>(u"Range", {u"Cell1", u"Cell2"}),
+        property<&A::recent_files>(u"RecentFiles", {u"Index"}),
+        property<&A::style_of_references, &A::set_style_of_references>(u"ReferenceStyle"),
         property<&A::rows>(u"Rows", {u"Index"}),
         property<&A::screen_updating, &A::set_screen_updating>(u"ScreenUpdating"),
         property<&A::selection>(u"Selection"),
         property<&A::worksheets>(u"Sheets", {u"Index"}),
-        property<&A::user_name>(u"UserName"),
+        property<&A::status_bar, &A::set_status_bar>(u"StatusBar"),
+        property<&A::this_workbook>(u"ThisWorkbook"),
+        property<&A::login_name>(u"UserName"),
         property<&A::version>(u"Version"),
         property<&A::windows>(u"Windows", {u"Index"}),
         property<&A::workbooks>(u"Workbooks", {u"Index"}),

@@ -9,6 +9,7 @@
 
 #include "hosts/calc/adapter/host_user.hpp"
 #include "hosts/calc/adapter/sheet_lives.hpp"
+#include "hosts/calc/adapter/status_bar.hpp"
 #include "hosts/calc/adapter/window_list.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "hosts/calc/uno/ref.hpp"
@@ -57,6 +58,7 @@ class Host : public std::enable_shared_from_this<Host> {
     SheetLives& sheet_lives() noexcept { return sheet_lives_; }
 
     bool display_alerts = true;
+    StatusBar status_bar;
 
     // The copy of cells that was put on the clipboard last, and its size.
     struct Copied {

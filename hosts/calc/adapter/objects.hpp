@@ -35,6 +35,11 @@ Object make_chart_objects(Sheet sheet);
 Object make_ole_objects(Sheet sheet);
 Object make_command_bars(HostPointer host);
 Object make_worksheet_function(HostPointer host);
+Object make_recent_files(HostPointer host);
+Object make_companion_book(HostPointer host);
+Object make_names(Book book);
+Object make_built_in_properties(Book book);
+Object make_custom_properties(Book book);
 
 // The application, or the property of it that most objects repeat.
 Object make_application(HostPointer host);

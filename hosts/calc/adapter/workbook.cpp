@@ -39,15 +39,15 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
     bool saved() { return !Ref<css::util::XModifiable>(book_.document)->isModified(); }
     void set_saved(bool saved) { Ref<css::util::XModifiable>(book_.document)->setModified(!saved); }
 
-    Variant windows(const Variant& index) {
-        const Object all = make_windows(book_.host, book_);
-        return index.is_missing() ? Variant(all) : all.get(names::Item, index);
-    }
-    Variant worksheets(const Variant& index) {
-        const Object all = make_sheets(book_);
-        return index.is_missing() ? Variant(all) : all.get(names::Item, index);
+    Variant windows(const Variant& index) { return item_or_all(make_windows(book_.host, book_), index); }
+    Variant worksheets(const Variant& index) { return item_or_all(make_sheets(book_), index); }
+    static Variant item_or_all(const Object& collection, const Variant& index) {
+        return index.is_missing() ? Variant(collection) : collection.get(names::Item, index);
     }
     Object active_chart() { return active_chart_of(book_); }
+    Variant defined_names(const Variant& index) { return item_or_all(make_names(book_), index); }
+    Variant built_in_properties(const Variant& index) { return item_or_all(make_built_in_properties(book_), index); }
+    Variant custom_properties(const Variant& index) { return item_or_all(make_custom_properties(book_), index); }
     Object active_sheet() { return make_worksheet(book_.active_sheet()); }
 
     void activate() { book_.host->activate(book_.document); }
@@ -80,10 +80,13 @@ const MemberTable<WorkbookObject>& WorkbookObject::members() {
         property<&W::active_chart>(u"ActiveChart"),
         property<&W::active_sheet>(u"ActiveSheet"),
         property<&W::application>(u"Application"),
+        property<&W::built_in_properties>(u"BuiltinDocumentProperties", {u"Index"}),
         method<&W::close>(u"Close", {u"SaveChanges", u"Filename"}),
+        property<&W::custom_properties>(u"CustomDocumentProperties", {u"Index"}),
         property<&W::format>(u"FileFormat"),
         property<&W::full_name>(u"FullName"),
         property<&W::name>(u"Name"),
+        property<&W::defined_names>(u"Names", {u"Index"}),
         property<&W::application>(u"Parent"),
         property<&W::path>(u"Path"),
         property<&W::read_only>(u"ReadOnly"),
