@@ -45,7 +45,7 @@ struct Tool {
 
     // Opens the dialog as a macro does, while the user plays.
     void open(const std::function<void(User&)>& script) {
-        qor::tests::play([&] { com.call(MemberName(u"UTWorSum"), calc.application); }, windows(),
+        qor::tests::play([&] { com.call(MemberName(u"UTWorSum"), calc.application); }, close_dialogs,
                          [&](User& user) {
                              if (!user.sees_dialog(title)) throw std::runtime_error("the dialog did not open");
                              script(user);

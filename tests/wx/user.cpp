@@ -209,7 +209,7 @@ void play(const std::function<void()>& command, const CloseDialogs& close, const
 }
 
 void show(Form& form, const CloseDialogs& close, const std::function<void(User&)>& script) {
-    play([&] { form.show_modal(); }, screen,
+    play([&] { form.show_modal(); }, close,
          [&](User& user) {
              if (!user.sees_dialog(to_utf8(form.caption()))) throw std::runtime_error("the dialog did not open");
              script(user);
