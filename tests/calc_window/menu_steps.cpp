@@ -24,7 +24,7 @@ void describe(const Object& control, const ToolRow& tool) {
 }
 
 Object add_popup(const Object& controls, const std::u16string& caption) {
-    const Object added = controls.call(names::Add, named(names::Type, popup), named(names::Temporary, false));
+    Object added = controls.call(names::Add, named(names::Type, popup), named(names::Temporary, false));
     added.put(names::Caption, caption);
     added.put(names::Tag, std::u16string(menu_title));
     return added;
@@ -33,9 +33,9 @@ Object add_popup(const Object& controls, const std::u16string& caption) {
 Object add_top(const Object& application) {
     const Object menu_bar = application.get(names::CommandBars, 1);
     const Object help = menu_bar.call(names::FindControl, popup, 30010);
-    const Object top = menu_bar.get(names::Controls)
-                           .call(names::Add, named(names::Type, popup), named(names::Before, help.get(names::Index)),
-                                 named(names::Temporary, false));
+    Object top = menu_bar.get(names::Controls)
+                     .call(names::Add, named(names::Type, popup), named(names::Before, help.get(names::Index)),
+                           named(names::Temporary, false));
     top.put(names::Caption, u"&" + std::u16string(menu_title));
     top.put(names::Tag, std::u16string(menu_title));
     return top;

@@ -207,4 +207,28 @@ TEST_CASE("toolbars move while they are shown") {
     CHECK(window.floating());
 }
 
+TEST_CASE("a toolbar that comes again in the same window stands where it is put now") {
+    const Calc calc;
+    const Object book = calc.add_book();
+    let_office_work(300ms);
+    const auto layout = bars()->ui().layouts().at(0);
+    for (const std::int32_t position : {1, 4, 3, 4}) {
+        CAPTURE(position);
+        const Object bar = calc.application.get(names::CommandBars).call(names::Add, u"Again");
+        const Object control = bar.get(names::Controls).call(names::Add, 1);
+        control.put(names::Caption, u"Button");
+        bar.put(names::Position, position);
+        bar.put(names::Visible, true);
+        let_office_work(200ms);
+        const ToolbarWindow window(layout, bars()->all().back()->url);
+        CHECK(window.visible());
+        CHECK(window.floating() == (position == 4));
+        CHECK(window.buttons() == 1);
+        CHECK(bar.get(names::Position) == position);
+        bar.call(names::Delete);
+        let_office_work(100ms);
+        CHECK(!window.visible());
+    }
+}
+
 }  // namespace qor::calc::tests

@@ -57,7 +57,9 @@ const std::vector<BarPointer>& Bars::all() {
 
 BarPointer Bars::add(const std::u16string& name) {
     auto bar = std::make_shared<Bar>();
-    bar->url = std::u16string(own_toolbar_prefix) + digits(++last_number_);
+    // A window that has shown a resource shows it again as it was. And the profile remembers of each that it is
+    // removed.
+    bar->url = std::u16string(own_toolbar_prefix) + digits(++last_toolbar_);
     bar->name = name;
     bar->built_in = false;
     bar->read = true;
@@ -99,7 +101,7 @@ Controls& Bars::controls(Control& popup) {
 ControlPointer Bars::add_control(const BarPointer& bar, Controls& among, ControlType type, std::size_t place) {
     auto control = std::make_shared<Control>();
     control->type = type;
-    control->command = std::u16string(own_command_prefix) + digits(++last_number_);
+    control->command = std::u16string(own_command_prefix) + digits(++last_control_);
     own_[control->command] = control;
     among.insert(among.begin() + static_cast<std::ptrdiff_t>(place), control);
     if (type == ControlType::drop_down) register_list(ui_.context(), control->command);

@@ -94,7 +94,8 @@ class Bars : public std::enable_shared_from_this<Bars> {
     std::map<std::u16string, std::weak_ptr<Control>, std::less<>> own_;  // by command
     std::vector<ListOnToolbar*> lists_;
     std::function<void(const std::u16string&)> macro_runner_;
-    std::int32_t last_number_ = 0;
+    std::int32_t last_toolbar_ = 0;
+    std::int32_t last_control_ = 0;
     bool scheduled_ = false;
 };
 

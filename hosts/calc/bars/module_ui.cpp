@@ -53,7 +53,7 @@ std::vector<Ref<css::frame::XFrame>> ModuleUi::frames() const {
         if (frame && shows_workbook(frame)) result.push_back(std::move(frame));
     }
     const Ref current{desktop->getCurrentFrame()};
-    std::ranges::stable_partition(result, [&](const auto& frame) { return frame == current; });
+    std::stable_partition(result.begin(), result.end(), [&](const auto& frame) { return frame == current; });
     return result;
 }
 

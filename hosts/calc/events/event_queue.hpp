@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <functional>
 #include <memory>
@@ -23,6 +24,8 @@ class EventQueue : public std::enable_shared_from_this<EventQueue> {
     void try_again();
     // Nothing is told from now on.
     void close();
+    // May be asked on any thread.
+    bool is_closed() const noexcept { return closed_; }
 
     const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context() const noexcept {
         return context_;
@@ -41,7 +44,7 @@ class EventQueue : public std::enable_shared_from_this<EventQueue> {
     com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
     std::vector<Waiting> waiting_;
     bool scheduled_ = false;
-    bool closed_ = false;
+    std::atomic<bool> closed_ = false;
 };
 
 }  // namespace qor::calc

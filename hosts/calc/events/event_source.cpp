@@ -21,6 +21,8 @@ std::unique_ptr<RepeatingTimer> EventSource::make_timer(std::function<void()> ti
     const std::string number = std::to_string(++last_number);
     const std::u16string key = u"timer " + std::u16string(number.begin(), number.end());
     return std::make_unique<RepeatingTimer>([weak = std::weak_ptr(queue_), context = queue_->context(), key, tick] {
+        const std::shared_ptr<EventQueue> open = weak.lock();
+        if (!open || open->is_closed()) return;
         post_to_main_thread(context, [weak, key, tick] {
             if (const std::shared_ptr<EventQueue> queue = weak.lock()) queue->put(key, tick);
         });

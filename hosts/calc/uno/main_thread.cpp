@@ -55,7 +55,11 @@ bool on_main_thread() noexcept {
 }
 
 void post_to_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context, std::function<void()> work) {
-    css::awt::AsyncCallback::create(context)->addCallback(new Posted(std::move(work)), css::uno::Any());
+    try {
+        css::awt::AsyncCallback::create(context)->addCallback(new Posted(std::move(work)), css::uno::Any());
+    } catch (const css::uno::Exception&) {
+        // The office ends, and its main thread is never free again.
+    }
 }
 
 void run_on_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context,

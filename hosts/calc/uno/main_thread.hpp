@@ -11,7 +11,7 @@ void run_on_main_thread(const com::sun::star::uno::Reference<com::sun::star::uno
                         const std::function<void()>& work);
 
 // Has the office's main thread do the work when it is next free, and returns at once. What the work throws is lost: it
-// has no caller.
+// has no caller. An office that ends does it no more.
 void post_to_main_thread(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
                          std::function<void()> work);
 
