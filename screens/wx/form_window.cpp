@@ -27,6 +27,13 @@ void split(const wxWindow& window) {
     }
 }
 
+// What was disabled when the toolkit laid the keyboard's way is not on it; it lays the way anew where windows move.
+void look_again(wxWindow& window) {
+    const wxWindowList& children = window.GetChildren();
+    if (children.GetCount() > 1) children[1]->MoveAfterInTabOrder(children[0]);
+    for (wxWindow* child : children) look_again(*child);
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, const Layouts& layouts, wxWindow* parent) : form_(&form) {
@@ -176,6 +183,7 @@ void FormWindow::show_model(Bound& bound) {
     // A disabled window keeps no focus, and without one no key reaches the dialog.
     if (!enabled && bound.binding->focused().HasFocus()) window.Navigate();
     window.Enable(enabled);
+    look_again(window);
 }
 
 void FormWindow::paint_now() {

@@ -1,4 +1,5 @@
-#include <array>
+#include <wx/notebook.h>
+
 #include <memory>
 
 #include "core/frmAbout.hpp"
@@ -49,6 +50,52 @@ struct Product : OnDisplay {
         }
         throw std::runtime_error("no control has the focus");
     }
+
+    static Tabs* tabs_of(const Form& form) {
+        for (Control* control : form.controls()) {
+            if (auto* tabs = dynamic_cast<Tabs*>(control)) return tabs;
+        }
+        return nullptr;
+    }
+    static void user_turns(const Tabs& tabs, int tab) {
+        window_of<wxNotebook>(to_utf8(tabs.name())).SetSelection(static_cast<std::size_t>(tab));
+    }
+
+    // Where the Tab key leads until it comes back to where it began, by the places of the controls.
+    static std::vector<std::size_t> stops_of(User& user, const Form& form) {
+        std::vector<std::size_t> stops{place(form, user.focus(form))};
+        for (std::size_t presses = 0; presses < 2 * form.controls().size(); ++presses) {
+            user.key("Tab");
+            const std::size_t next = place(form, user.focus(form));
+            if (next == stops.front()) break;
+            if (next != stops.back()) stops.push_back(next);
+        }
+        return stops;
+    }
+
+    // The controls that are shown and enabled and take keys.
+    static std::vector<std::size_t> reachable(const Form& form) {
+        std::vector<std::size_t> places;
+        for (std::size_t at = 0; at < form.controls().size(); ++at) {
+            const Control& control = *form.controls()[at];
+            if (dynamic_cast<const Frame*>(&control) || dynamic_cast<const Label*>(&control)) continue;
+            const auto& window = window_of<wxWindow>(to_utf8(control.name()));
+            if (window.IsShownOnScreen() && window.IsEnabled()) places.push_back(at);
+        }
+        return places;
+    }
+
+    static std::string names(const Form& form, const std::vector<std::size_t>& places) {
+        std::string list;
+        for (const std::size_t at : places) list += to_utf8(form.controls()[at]->name()) + ' ';
+        return list;
+    }
+
+    static void check_name(const Control& control) {
+        const auto& window = window_of<wxWindow>(to_utf8(control.name()));
+        CAPTURE(to_utf8(control.name()));
+        CHECK((!window.GetLabel().empty() || !wx::reader_name(window).empty() || window.GetChildren().GetCount() > 0));
+    }
 };
 
 }  // namespace
@@ -65,29 +112,29 @@ TEST_CASE_FIXTURE(Product, "every form has a layout with exactly its controls, a
 }
 
 TEST_CASE_FIXTURE(Product,
-                  "in every dialog the keyboard goes through the controls in their order, each of which has a name") {
+                  "in every dialog the keyboard goes through all controls in their order, each of which has a name") {
     for (const auto& form : forms) {
         if (form->name() == u"frmComplete") continue;  // it takes no keys
         CAPTURE(to_utf8(form->name()));
         show(
             *form, [&] { screen.close_all(); },
             [&](User& user) {
-                std::vector<std::size_t> stops{place(*form, user.focus(*form))};
-                for (std::size_t stop = 0; stop < form->controls().size(); ++stop) {
-                    user.key("Tab");
-                    const std::size_t next = place(*form, user.focus(*form));
-                    if (next == stops.front()) break;
-                    if (next != stops.back()) stops.push_back(next);
-                }
-                CHECK(std::ranges::is_sorted(stops));
-                for (const std::size_t stop : stops) {
+                Tabs* tabs = tabs_of(*form);
+                for (std::size_t tab = 0; tab < (tabs ? tabs->captions().size() : 1); ++tab) {
+                    CAPTURE(tab);
                     user.on_screen([&] {
-                        const Control& control = *form->controls()[stop];
-                        const auto& window = window_of<wxWindow>(to_utf8(control.name()));
-                        CAPTURE(to_utf8(control.name()));
-                        CHECK((!window.GetLabel().empty() || !wx::reader_name(window).empty() ||
-                               window.GetChildren().GetCount() > 0));
+                        if (tabs) user_turns(*tabs, static_cast<int>(tab));
+                        window_of<wxWindow>(to_utf8(form->controls().front()->name())).SetFocus();
                     });
+                    user.settle();
+                    const auto stops = stops_of(user, *form);
+                    CHECK(std::ranges::is_sorted(stops));
+                    std::vector<std::size_t> all;
+                    user.on_screen([&] {
+                        all = reachable(*form);
+                        for (const std::size_t stop : stops) check_name(*form->controls()[stop]);
+                    });
+                    CHECK(names(*form, stops) == names(*form, all));
                 }
             });
     }
