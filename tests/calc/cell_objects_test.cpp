@@ -43,6 +43,7 @@ TEST_CASE("links in cells are counted without asking every text") {
     CHECK(host_calls - before < 40);
     CHECK(sheet.get(names::Range, u"C5").get(names::Hyperlinks).get(names::Count) == 1);
     CHECK(sheet.get(names::Range, u"A1:B9").get(names::Hyperlinks).get(names::Count) == 0);
+    CHECK(sheet.get(names::Range, u"G1:H9").get(names::Hyperlinks).get(names::Count) == 0);
     for (const char* file : {"links.ods", "links.xlsx"}) {
         const std::filesystem::path path = calc.folder() / file;
         book.call(names::SaveAs, std::u16string(path.u16string()));
@@ -51,6 +52,29 @@ TEST_CASE("links in cells are counted without asking every text") {
     book.call(names::Close, false);
     const Object again = calc.open(calc.folder() / "links.xlsx").get(names::Worksheets, 1);
     CHECK(again.get(names::Hyperlinks).get(names::Count) == 2);
+}
+
+TEST_CASE("links are deleted where they are asked for, and their texts stay") {
+    const Calc calc;
+    const Object book = calc.add_book();
+    const Object sheet = book.get(names::Worksheets, 1);
+    for (const std::int32_t row : {0, 1, 2}) insert_link(only_sheet(), 0, row);
+    const Object links = sheet.get(names::Hyperlinks);
+    sheet.get(names::Range, u"G1:H9").get(names::Hyperlinks).call(names::Delete);
+    CHECK(links.get(names::Count) == 3);
+    sheet.get(names::Range, u"A1:B2").get(names::Hyperlinks).call(names::Delete);
+    CHECK(links.get(names::Count) == 1);
+    CHECK(sheet.get(names::Range, u"A1").get(names::Value) == u"example");
+    sheet.call(names::Protect);
+    CHECK(error_of([&] { links.call(names::Delete); }) == 1004);
+    CHECK(links.get(names::Count) == 1);
+    sheet.call(names::Unprotect);
+    links.call(names::Delete);
+    CHECK(links.get(names::Count) == 0);
+    CHECK(sheet.get(names::Range, u"A3").get(names::Value) == u"example");
+    const Object again = calc.reopened(book, "unlinked.xlsx").get(names::Worksheets, 1);
+    CHECK(again.get(names::Hyperlinks).get(names::Count) == 0);
+    CHECK(again.get(names::Range, u"A3").get(names::Value) == u"example");
 }
 
 TEST_CASE("merged cells") {

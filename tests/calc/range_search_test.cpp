@@ -62,6 +62,22 @@ TEST_CASE("cells of a kind") {
     CHECK(error_of([&] { sheet.get(names::Range, u"A1").call(names::SpecialCells, 99); }) == 1004);
 }
 
+TEST_CASE("cells of a kind are looked for within the range only") {
+    const Calc calc;
+    const Object sheet = calc.add_sheet();
+    sheet.get(names::Range, u"A1").put(names::Value, u"text");
+    sheet.get(names::Range, u"B1").put(names::Formula, u"=1/0");
+    sheet.get(names::Range, u"A2").call(MemberName(u"AddComment"), u"note");
+    sheet.get(names::Range, u"F9").get(names::Interior).put(names::Color, 255);
+    const Object beside = sheet.get(names::Range, u"D1:F9");
+    for (const std::int32_t kind : {2, -4123, -4144}) {
+        CAPTURE(kind);
+        CHECK(error_of([&] { beside.call(names::SpecialCells, kind); }) == 1004);
+    }
+    CHECK(address(beside.call(names::SpecialCells, 4)) == "$D$1:$F$9");
+    CHECK(address(beside.call(names::SpecialCells, 12)) == "$D$1:$F$9");
+}
+
 TEST_CASE("the last used row and column are found backwards") {
     for (const char* file : {"", "found.xlsx", "found.xls", "found.ods"}) {
         CAPTURE(file);

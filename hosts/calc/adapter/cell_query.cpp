@@ -23,10 +23,14 @@ CellPlaces within(const Cells& cells, const Ref<css::sheet::XSheetCellRanges>& f
     return result;
 }
 
+Ref<css::sheet::XCellRangesQuery> query(const Cells& cells) {
+    return Ref<css::sheet::XCellRangesQuery>(cells);
+}
+
 }  // namespace
 
 CellPlaces formula_places(const Cells& cells, sal_Int32 results) {
-    return within(cells, Ref<css::sheet::XCellRangesQuery>(cells)->queryFormulaCells(results));
+    return within(cells, query(cells)->queryFormulaCells(results));
 }
 
 CellPlaces formula_places(const Cells& cells) {
@@ -35,7 +39,15 @@ CellPlaces formula_places(const Cells& cells) {
 }
 
 CellPlaces content_places(const Cells& cells, sal_Int16 contents) {
-    return within(cells, Ref<css::sheet::XCellRangesQuery>(cells)->queryContentCells(contents));
+    return within(cells, query(cells)->queryContentCells(contents));
+}
+
+CellPlaces empty_places(const Cells& cells) {
+    return within(cells, query(cells)->queryEmptyCells());
+}
+
+CellPlaces visible_places(const Cells& cells) {
+    return within(cells, query(cells)->queryVisibleCells());
 }
 
 }  // namespace qor::calc

@@ -16,5 +16,8 @@ CellPlaces content_places(const Cells& cells, sal_Int16 contents);
 
 // Formulas of whatever result.
 CellPlaces formula_places(const Cells& cells);
+// Cells that hold nothing, and cells whose row and column can be seen.
+CellPlaces empty_places(const Cells& cells);
+CellPlaces visible_places(const Cells& cells);
 
 }  // namespace qor::calc

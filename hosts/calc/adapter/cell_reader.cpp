@@ -4,8 +4,6 @@
 #include <com/sun/star/sheet/FormulaResult.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 
 #include "hosts/calc/adapter/cell_errors.hpp"
 #include "hosts/calc/adapter/cell_query.hpp"
@@ -31,7 +29,7 @@ class Reading {
         if (truths_) apply_constants();
         if (errors_) apply_errors();
         if (empty_texts_) {
-            for_each(query()->queryEmptyCells(), [&](std::size_t place) { table_.at(place) = Empty{}; });
+            for_each(empty_places(cells_), [&](std::size_t place) { table_.at(place) = Empty{}; });
         }
         return result();
     }
@@ -72,8 +70,6 @@ class Reading {
     }
 
   private:
-    Ref<css::sheet::XCellRangesQuery> query() const { return Ref<css::sheet::XCellRangesQuery>(cells_); }
-
     Texts formula_texts() const { return Ref<css::sheet::XCellRangeFormula>(cells_)->getFormulaArray(); }
 
     const rtl::OUString& text_at(const Texts& texts, std::size_t place) const {
@@ -171,10 +167,6 @@ class Reading {
                 for (sal_Int32 column = at.StartColumn; column <= at.EndColumn; ++column) visit(place_of(column, row));
             }
         }
-    }
-    template <class Visit>
-    void for_each(const css::uno::Reference<css::sheet::XSheetCellRanges>& ranges, Visit visit) {
-        for_each(Ref(ranges)->getRangeAddresses(), visit);
     }
 
     Variant result() {

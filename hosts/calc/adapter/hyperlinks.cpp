@@ -1,13 +1,11 @@
+#include <algorithm>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
-#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/text/XText.hpp>
-#include <com/sun/star/text/XTextContent.hpp>
-#include <com/sun/star/text/XTextFieldsSupplier.hpp>
+#include <com/sun/star/text/XTextField.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
 
 #include "hosts/calc/adapter/calc_object.hpp"
+#include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/objects.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
@@ -35,28 +33,46 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
     }
 
   private:
-    using Cell = Ref<css::text::XTextFieldsSupplier>;
-    using Link = Ref<css::text::XTextContent>;
+    using Cell = Ref<css::container::XEnumerationAccess>;
+    using Link = Ref<css::text::XTextRange>;
 
     template <class Visit>
     void for_each_cell(Visit visit) const {
         for (const Cells& cells : areas_.areas) {
             // Only texts of several parts can hold a link, which spares asking all the plain ones.
-            const Ref texts{
-                Ref<css::sheet::XCellRangesQuery>(cells)->queryContentCells(css::sheet::CellFlags::FORMATTED)};
-            const Ref elements{Ref{texts->getCells()} -> createEnumeration()};
-            while (elements->hasMoreElements()) visit(Cell(elements->nextElement()));
+            const CellPlaces texts = content_places(cells, css::sheet::CellFlags::FORMATTED);
+            if (texts.empty()) continue;
+            const Rectangle area = rectangle_of(cells);
+            for (const css::table::CellRangeAddress& at : texts) {
+                for (sal_Int32 row = at.StartRow; row <= at.EndRow; ++row) {
+                    for (sal_Int32 column = at.StartColumn; column <= at.EndColumn; ++column) {
+                        visit(Cell(Ref{cells->getCellByPosition(column - area.left, row - area.top)}));
+                    }
+                }
+            }
         }
     }
 
+    // From the last one on, so that what is done to one leaves the places of the others.
     static std::vector<Link> links_in(const Cell& cell) {
-        const Ref<css::container::XIndexAccess> fields(Ref{cell->getTextFields()});
         std::vector<Link> links;
-        for (sal_Int32 i = fields->getCount(); i > 0; --i) {
-            const Ref<css::beans::XPropertySet> field(fields->getByIndex(i - 1));
-            if (Ref(field->getPropertySetInfo())->hasPropertyByName("URL")) links.emplace_back(field);
+        const Ref paragraphs{cell->createEnumeration()};
+        while (paragraphs->hasMoreElements()) {
+            const Ref parts{Cell(paragraphs->nextElement())->createEnumeration()};
+            while (parts->hasMoreElements()) {
+                const Link part(parts->nextElement());
+                if (is_link(part)) links.push_back(part);
+            }
         }
+        std::ranges::reverse(links);
         return links;
+    }
+
+    static bool is_link(const Link& part) {
+        if (get_property<rtl::OUString>(part, "TextPortionType") != "TextField") return false;
+        const Ref<css::beans::XPropertySet> field(
+            Ref{get_property<css::uno::Reference<css::text::XTextField>>(part, "TextField")});
+        return Ref(field->getPropertySetInfo())->hasPropertyByName("URL");
     }
 
     std::int32_t count() {
@@ -69,15 +85,9 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
     void remove() {
         const UndoStep step(u"Delete Hyperlinks");
         before_formatting(areas_);
-        std::vector<Cell> cells;
-        for_each_cell([&](const Cell& cell) { cells.push_back(cell); });
-        for (const Cell& cell : cells) {
-            const Ref<css::text::XText> text(cell);
-            for (const Link& link : links_in(cell)) {
-                const auto shown = get_property<rtl::OUString>(link, "Representation");
-                text->insertString(link->getAnchor(), shown, true);
-            }
-        }
+        for_each_cell([](const Cell& cell) {
+            for (const Link& link : links_in(cell)) link->setString(link->getString());
+        });
     }
 
     Object parent() { return make_range(areas_); }

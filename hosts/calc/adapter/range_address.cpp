@@ -1,34 +1,15 @@
 #include "hosts/calc/adapter/range_address.hpp"
 
-#include "hosts/calc/formula/notation.hpp"
+#include "hosts/calc/formula/row_column.hpp"
 
 namespace qor::calc {
 namespace {
 
-std::u16string number(std::int32_t value) {
-    const std::string digits = std::to_string(value);
-    return {digits.begin(), digits.end()};
-}
-
-// R5, R[2] or R.
-std::u16string part_in_r1c1(char16_t letter, std::int32_t place, bool fixed, std::int32_t base) {
-    std::u16string text(1, letter);
-    if (fixed) return text + number(place + 1);
-    return place == base ? text : text + u"[" + number(place - base) + u"]";
-}
-
 std::u16string address_in_r1c1(const Rectangle& area, const AddressStyle& style) {
-    const bool whole_rows = area.width() == column_limit;
-    const bool whole_columns = area.height() == row_limit && !whole_rows;
-    const auto corner = [&](std::int32_t row, std::int32_t column) {
-        std::u16string text;
-        if (!whole_columns) text += part_in_r1c1(u'R', row, style.row_fixed, style.base.top);
-        if (!whole_rows) text += part_in_r1c1(u'C', column, style.column_fixed, style.base.left);
-        return text;
-    };
-    const std::u16string first = corner(area.top, area.left);
-    const std::u16string last = corner(area.bottom, area.right);
-    return first == last ? first : first + u":" + last;
+    const CellPlace base{style.base.left, style.base.top};
+    const Corner first{area.left, area.top, style.column_fixed, style.row_fixed};
+    const Corner last{area.right, area.bottom, style.column_fixed, style.row_fixed};
+    return area.cells() == 1 ? row_column_text(first, base) : row_column_range_text(first, last, base);
 }
 
 std::u16string prefix_of(const Sheet& sheet) {

@@ -2,20 +2,15 @@
 #include <array>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/FormulaResult.hpp>
-#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/util/XSearchable.hpp>
 
+#include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
 #include "hosts/calc/adapter/used_area.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
 namespace {
-
-using Found = css::uno::Reference<css::sheet::XSheetCellRanges>;
-using Query = Ref<css::sheet::XCellRangesQuery>;
 
 // Excel's numbers for kinds of cells.
 constexpr std::int32_t last_cell = 11;
@@ -47,18 +42,16 @@ sal_Int32 result_flags(std::int32_t value) {
 
 struct Kind {
     std::int32_t excel;
-    Found (*find)(const Query& cells, std::int32_t value);
+    CellPlaces (*find)(const Cells& cells, std::int32_t value);
 };
 constexpr std::array kinds{
-    Kind{cells_with_comments,
-         [](const Query& cells, std::int32_t) -> Found { return cells->queryContentCells(flag::ANNOTATION); }},
-    Kind{
-        cells_with_constants,
-        [](const Query& cells, std::int32_t value) -> Found { return cells->queryContentCells(content_flags(value)); }},
+    Kind{cells_with_comments, [](const Cells& cells, std::int32_t) { return content_places(cells, flag::ANNOTATION); }},
+    Kind{cells_with_constants,
+         [](const Cells& cells, std::int32_t value) { return content_places(cells, content_flags(value)); }},
     Kind{cells_with_formulas,
-         [](const Query& cells, std::int32_t value) -> Found { return cells->queryFormulaCells(result_flags(value)); }},
-    Kind{blank_cells, [](const Query& cells, std::int32_t) -> Found { return cells->queryEmptyCells(); }},
-    Kind{visible_cells, [](const Query& cells, std::int32_t) -> Found { return cells->queryVisibleCells(); }},
+         [](const Cells& cells, std::int32_t value) { return formula_places(cells, result_flags(value)); }},
+    Kind{blank_cells, [](const Cells& cells, std::int32_t) { return empty_places(cells); }},
+    Kind{visible_cells, [](const Cells& cells, std::int32_t) { return visible_places(cells); }},
 };
 
 // Excel's numbers for the way of searching.
@@ -99,9 +92,7 @@ Object RangeObject::special_cells(std::int32_t type, std::optional<std::int32_t>
     for (std::size_t i = 0; i < areas_.areas.size(); ++i) {
         const auto within = one_cell ? used : areas_.rectangle(i).common_with(used);
         if (!within) continue;
-        const Query query(cells_at(sheet, *within));
-        for (const css::table::CellRangeAddress& at :
-             Ref(kind->find(query, value.value_or(any_value)))->getRangeAddresses()) {
+        for (const css::table::CellRangeAddress& at : kind->find(cells_at(sheet, *within), value.value_or(any_value))) {
             found.areas.push_back(cells_at(sheet, {at.StartColumn, at.StartRow, at.EndColumn, at.EndRow}));
         }
     }

@@ -4,10 +4,9 @@
 #include <com/sun/star/linguistic2/LinguServiceManager.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <set>
 
+#include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/command.hpp"
 #include "hosts/calc/adapter/selection.hpp"
 #include "hosts/calc/adapter/used_area.hpp"
@@ -67,9 +66,8 @@ std::set<std::u16string> words_in(const RangeAreas& areas) {
     for (std::size_t i = 0; i < areas.areas.size(); ++i) {
         const auto within = areas.rectangle(i).common_with(used);
         if (!within) continue;
-        const Ref<css::sheet::XCellRangesQuery> query(cells_at(areas.sheet, *within));
-        const Ref texts{query->queryContentCells(css::sheet::CellFlags::STRING)};
-        for (const css::table::CellRangeAddress& at : texts->getRangeAddresses()) {
+        const CellPlaces texts = content_places(cells_at(areas.sheet, *within), css::sheet::CellFlags::STRING);
+        for (const css::table::CellRangeAddress& at : texts) {
             const Cells run = cells_at(areas.sheet, {at.StartColumn, at.StartRow, at.EndColumn, at.EndRow});
             for (const auto& row : Ref<css::sheet::XCellRangeData>(run)->getDataArray()) {
                 for (const css::uno::Any& value : row) {
