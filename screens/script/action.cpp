@@ -5,11 +5,12 @@
 #include <array>
 #include <cstdlib>
 #include <set>
-#include <typeinfo>
 
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 #include "screens/script/script_error.hpp"
+#include "screens/script/step.hpp"
+#include "screens/script/tree_action.hpp"
 #include "ui/button.hpp"
 #include "ui/check_box.hpp"
 #include "ui/combo_box.hpp"
@@ -20,69 +21,16 @@
 #include "ui/spin_box.hpp"
 #include "ui/swatch.hpp"
 #include "ui/tabs.hpp"
-#include "ui/tree_view.hpp"
 
 namespace qor {
 namespace {
 
 using nlohmann::json;
 
-constexpr std::size_t names_in_message = 40;
-
-// One action on one control of a form, with the words for what does not fit.
-struct Step {
-    Form& form;
-    Control& control;
-    const json& action;
-
-    [[noreturn]] void refuse(const std::string& reason) const {
-        throw ScriptError(
-            fmt::format("{}: {}: {}: {}", to_utf8(form.name()), to_utf8(control.name()), action.dump(), reason));
-    }
-
-    std::string text(const char* key) const {
-        const auto member = action.find(key);
-        if (member == action.end() || !member->is_string()) refuse(fmt::format("\"{}\" must be given as a text", key));
-        return member->get<std::string>();
-    }
-
-    template <class Kind>
-    Kind* as() const {
-        return dynamic_cast<Kind*>(&control);
-    }
-};
-
-std::string join(const std::vector<std::string>& names) {
-    if (names.empty()) return "nothing";
-    const std::size_t shown = std::min(names.size(), names_in_message);
-    const std::string text = fmt::format("{}", fmt::join(names.begin(), names.begin() + std::ptrdiff_t(shown), ", "));
-    return shown == names.size() ? text : fmt::format("{} and {} more", text, names.size() - shown);
-}
-
-TreeNode& find_node(const Step& step, TreeView& tree, const char* key, bool by_text) {
-    const std::string wanted = step.text(key);
-    std::vector<std::string> found;
-    for (std::size_t index = 1; index <= tree.count(); ++index) {
-        TreeNode& node = tree.node(index);
-        found.push_back(to_utf8(by_text ? node.text() : node.key()));
-        if (found.back() == wanted) return node;
-    }
-    step.refuse(fmt::format("there is no {} \"{}\"; there is {}", by_text ? "row" : "node", wanted, join(found)));
-}
-
-void show(TreeNode& node) {
-    for (TreeNode* above = node.parent(); above; above = above->parent()) above->set_expanded(true);
-}
-
-Pointer with_left_button(Pointer pointer) {
-    pointer.button = MouseButton::left;
-    return pointer;
-}
-
-void click(TreeView& tree, const Pointer& place) {
-    tree.move_pointer(place);
-    tree.press_pointer(with_left_button(place));
-    tree.release_pointer(with_left_button(place));
+TreeView& tree_of(const Step& step, const char* otherwise) {
+    auto* tree = step.as<TreeView>();
+    if (!tree) step.refuse(otherwise);
+    return *tree;
 }
 
 void press(const Step& step) {
@@ -97,27 +45,14 @@ void press(const Step& step) {
     }
 }
 
-std::optional<bool> wanted_state(const Step& step) {
-    const auto to = step.action.find("to");
-    if (to == step.action.end()) return std::nullopt;
-    if (!to->is_boolean()) step.refuse("\"to\" must be true or false");
-    return to->get<bool>();
-}
-
 void check(const Step& step) {
-    const std::optional<bool> wanted = wanted_state(step);
     if (auto* box = step.as<CheckBox>()) {
-        box->set_checked(wanted.value_or(!box->checked()));
-        return;
+        box->set_checked(step.truth("to").value_or(!box->checked()));
+    } else if (auto* tree = step.as<TreeView>()) {
+        check_node(step, *tree);
+    } else {
+        step.refuse("nothing can be checked here");
     }
-    auto* tree = step.as<TreeView>();
-    if (!tree) step.refuse("nothing can be checked here");
-    const bool by_text = !step.action.contains("node");
-    TreeNode& node = find_node(step, *tree, by_text ? "row" : "node", by_text);
-    constexpr int checked_picture = 2;
-    if (wanted && *wanted == (node.image() == checked_picture)) return;
-    show(node);
-    click(*tree, *tree->picture_point(node));
 }
 
 // A place among `count`, from 0.
@@ -170,6 +105,8 @@ void set(const Step& step) {
         select_rows(step, *list, *to);
     } else if (auto* picker = step.as<DatePicker>()) {
         picker->set_day(day_of(step));
+    } else if (auto* tree = step.as<TreeView>()) {
+        type_over_label(step, *tree);
     } else {
         step.refuse("this has no value that can be set");
     }
@@ -182,6 +119,10 @@ ListBox& list_of(const Step& step) {
 }
 
 void double_click(const Step& step) {
+    if (auto* tree = step.as<TreeView>()) {
+        double_click_node(step, *tree);
+        return;
+    }
     ListBox& list = list_of(step);
     const auto row = step.action.find("row");
     if (row == step.action.end()) step.refuse("\"row\" must say the place");
@@ -205,28 +146,24 @@ void spin(const Step& step) {
 }
 
 void move(const Step& step) {
-    auto* tree = step.as<TreeView>();
-    if (!tree) step.refuse("there are no rows here to move");
-    TreeNode& dragged = find_node(step, *tree, "row", true);
-    TreeNode& target = find_node(step, *tree, "onto", true);
-    show(dragged);
-    show(target);
-    const Pointer from = *tree->text_point(dragged);
-    const Pointer onto = with_left_button(*tree->text_point(target));
-    tree->move_pointer(from);
-    tree->press_pointer(with_left_button(from));
-    // Far enough for the tree to see a drag, even onto the same row.
-    tree->move_pointer({.x = from.x + tree->metrics().row_height, .y = from.y, .button = MouseButton::left});
-    tree->move_pointer(onto);
-    tree->release_pointer(onto);
+    drag_node(step, tree_of(step, "there are no rows here to move"));
+}
+
+void choose_from_menu(const Step& step) {
+    choose_command(step, tree_of(step, "this has no menu"));
+}
+
+void delete_with_key(const Step& step) {
+    delete_node(step, tree_of(step, "nothing can be deleted here"));
 }
 
 struct Verb {
     const char* name;
     void (*perform)(const Step&);
 };
-constexpr std::array verbs{Verb{"press", press},         Verb{"check", check}, Verb{"set", set},  Verb{"move", move},
-                           Verb{"double", double_click}, Verb{"sort", sort},   Verb{"spin", spin}};
+constexpr std::array verbs{Verb{"press", press}, Verb{"check", check},           Verb{"set", set},
+                           Verb{"move", move},   Verb{"double", double_click},   Verb{"sort", sort},
+                           Verb{"spin", spin},   Verb{"menu", choose_from_menu}, Verb{"delete", delete_with_key}};
 
 Control& find_control(const Form& form, const std::string& name) {
     std::vector<std::string> found;
@@ -250,9 +187,10 @@ void perform(Form& form, const json& action) {
         verb.perform(step);
         return;
     }
-    throw ScriptError(
-        fmt::format("{}: {}: an action presses, checks, sets, moves, doubles, sorts or spins a control named as a text",
-                    to_utf8(form.name()), action.dump()));
+    throw ScriptError(fmt::format(
+        "{}: {}: an action presses, checks, sets, moves, doubles, sorts, spins, deletes in or chooses from the "
+        "menu of a control named as a text",
+        to_utf8(form.name()), action.dump()));
 }
 
 }  // namespace qor

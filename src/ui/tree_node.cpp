@@ -4,6 +4,16 @@
 
 namespace qor {
 
+void TreeNode::set_key(std::u16string key) {
+    if (key == key_) return;
+    if (tree_.find(key)) throw Error(ErrorNumber::invalid_call);
+    tree_.by_key_.erase(key_);
+    key_ = std::move(key);
+    tree_.by_key_.emplace(key_, this);
+}
+void TreeNode::set_text(std::u16string text) {
+    assign(text_, std::move(text));
+}
 void TreeNode::set_image(int image) {
     assign(image_, image);
 }

@@ -23,7 +23,10 @@ class TreeNode {
     TreeNode& operator=(const TreeNode&) = delete;
 
     const std::u16string& key() const noexcept { return key_; }
+    // Raises 5 for a key that another node has.
+    void set_key(std::u16string key);
     const std::u16string& text() const noexcept { return text_; }
+    void set_text(std::u16string text);
 
     int image() const noexcept { return image_; }  // place in the widget's image list, from 1
     void set_image(int image);

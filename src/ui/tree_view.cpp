@@ -72,7 +72,7 @@ void TreeView::unlink(TreeNode& node) {
 
 void TreeView::forget(const TreeNode& node) {
     by_key_.erase(node.key_);
-    for (TreeNode** held : {&selected_, &drop_highlight_, &pressed_}) {
+    for (TreeNode** held : {&selected_, &drop_highlight_, &pressed_, &edited_}) {
         if (*held == &node) *held = nullptr;
     }
 }
@@ -80,7 +80,7 @@ void TreeView::forget(const TreeNode& node) {
 void TreeView::clear() {
     by_key_.clear();
     nodes_.clear();
-    first_ = last_ = selected_ = drop_highlight_ = pressed_ = nullptr;
+    first_ = last_ = selected_ = drop_highlight_ = pressed_ = edited_ = nullptr;
     changed();
 }
 
@@ -158,7 +158,7 @@ void TreeView::release_pointer(const Pointer& pointer) {
     TreeNode* node = std::exchange(pressed_, nullptr);
     if (drag_icon_ != 0) {
         on_drop(pointer);
-        assign(drag_icon_, 0);
+        end_drag();
         return;
     }
     on_mouse_up(pointer);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ui/control.hpp"
+#include "ui/popup_menu.hpp"
 #include "ui/tree_node.hpp"
 
 namespace qor {
@@ -59,25 +60,59 @@ class TreeView final : public Control {
     std::optional<Pointer> picture_point(const TreeNode& node) const;
     std::optional<Pointer> text_point(const TreeNode& node) const;
 
-    // From here until the button is released the pointer's moves are drag-overs, and the release is a drop.
+    // From here until the button is released the pointer's moves are drag-overs, and the release is a drop. Called
+    // again in a drag, only the picture changes.
     void begin_drag(int icon);
+    void end_drag() { assign(drag_icon_, 0); }
     // The picture that goes with the pointer, 0 when nothing is dragged.
     int drag_icon() const noexcept { return drag_icon_; }
 
-    // What the user does.
+    // Comes up where the pointer is, until the user chooses from it or leaves it.
+    void show_popup(PopupMenu& menu) { assign(popup_, &menu); }
+    PopupMenu* popup() const noexcept { return popup_; }
+    // What the user does: a command by its place, or none.
+    void leave_popup(std::optional<std::size_t> chosen);
+
+    // Whether the user may delete nodes and type over their texts.
+    bool editable() const noexcept { return editable_; }
+    void set_editable(bool editable) { editable_ = editable; }
+
+    // The selected node's text is to be typed over, until the user has done so or leaves it. Does nothing without one.
+    void start_label_edit() { assign(edited_, selected_); }
+    TreeNode* edited() const noexcept { return edited_; }
+    // What the user does: another text, or none.
+    void end_label_edit(const std::optional<std::u16string>& text);
+
+    // What the user does with the keyboard: deletes the selected node, and presses or releases a key; the state is that
+    // of Shift, Ctrl and Alt afterwards, as in Pointer.
+    void delete_selected();
+    void press_key(int shift) const { on_key_down(shift); }
+    void release_key(int shift) const { on_key_up(shift); }
+
+    // What the user does with the pointer. A double click comes after the release that ends it.
     void move_pointer(const Pointer& pointer);
     void press_pointer(const Pointer& pointer);
     void release_pointer(const Pointer& pointer);
+    void double_click() const { on_double_click(); }
+    // The pointer went away in a drag, which ends nowhere.
+    void cancel_drag();
 
     Event<const Pointer&> on_mouse_move;
     Event<const Pointer&> on_mouse_down;
     Event<const Pointer&> on_mouse_up;
     Event<const Pointer&> on_drag_over;
     Event<const Pointer&> on_drop;
+    Event<> on_double_click;
+    Event<int> on_key_down;
+    Event<int> on_key_up;
     // The left button went down and up on a node, anywhere but on the lines.
     Event<TreeNode&> on_node_click;
     // The same, but on its picture. Comes first.
     Event<TreeNode&> on_picture_click;
+    // The edited node still has its old text; it takes the new one unless the handler sets the flag, which cancels.
+    Event<const std::u16string&, bool&> on_after_label_edit;
+    // The node goes, with everything below it, unless the handler sets the flag.
+    Event<TreeNode&, bool&> on_before_delete;
 
   private:
     friend class TreeNode;
@@ -96,8 +131,11 @@ class TreeView final : public Control {
     TreeNode* selected_ = nullptr;
     TreeNode* drop_highlight_ = nullptr;
     TreeNode* pressed_ = nullptr;
+    TreeNode* edited_ = nullptr;
+    PopupMenu* popup_ = nullptr;
     std::optional<Pointer> press_;
     int drag_icon_ = 0;
+    bool editable_ = false;
 };
 
 template <class T>

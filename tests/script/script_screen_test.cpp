@@ -168,7 +168,9 @@ TEST_CASE_FIXTURE(Script, "a row is moved onto another or onto itself by draggin
 
 TEST_CASE_FIXTURE(Script, "an action that does not fit says which, and what there is") {
     const std::string shapeless =
-        "an action presses, checks, sets, moves, doubles, sorts or spins a control named as a text";
+        "an action presses, checks, sets, moves, doubles, sorts, spins, deletes in or chooses from the menu of a "
+        "control "
+        "named as a text";
     struct Refusal {
         std::string action;
         std::string control;
@@ -187,7 +189,7 @@ TEST_CASE_FIXTURE(Script, "an action that does not fit says which, and what ther
         {R"({"set":"txtName","to":5})", "txtName: ", R"("to" must be given as a text)"},
         {R"({"set":"optOrder","to":2})", "optOrder: ", R"(a place must be a whole number from 0 to 1)"},
         {R"({"set":"optOrder","to":"1"})", "optOrder: ", R"(a place must be a whole number from 0 to 1)"},
-        {R"({"set":"treRows","to":2})", "treRows: ", "this has no value that can be set"},
+        {R"({"set":"treRows","to":2})", "treRows: ", "no text is being edited"},
         {R"({"move":"txtName","onto":"b","row":"a"})", "txtName: ", "there are no rows here to move"},
         {R"-({"click":"cmdButton(0)"})-", "", shapeless},
         {"5", "", shapeless},

@@ -197,3 +197,21 @@ TEST_CASE_FIXTURE(SmallTree, "a drag turns moves into drag-overs and the release
     click(800, 300);
     CHECK(events == u"move move over drop up click ");
 }
+
+TEST_CASE_FIXTURE(SmallTree, "a drag that is taken away drops over no node") {
+    root.set_expanded(true);
+    std::u16string events;
+    tree.on_mouse_move = [&](const Pointer&) { tree.begin_drag(3); };
+    tree.on_drag_over = [&](const Pointer& at) {
+        events += tree.node_at(at.x, at.y) ? u"over node " : u"over nothing ";
+    };
+    tree.on_drop = [&](const Pointer& at) { events += tree.node_at(at.x, at.y) ? u"on node " : u"on nothing "; };
+    tree.press_pointer(left(800, 300));
+    tree.move_pointer(left(800, 400));
+    tree.move_pointer(left(800, 600));
+    tree.begin_drag(4);
+    CHECK(tree.drag_icon() == 4);
+    tree.cancel_drag();
+    CHECK(events == u"over node over nothing on nothing ");
+    CHECK(tree.drag_icon() == 0);
+}

@@ -122,7 +122,18 @@ void User::click_in(const std::string& control, wxPoint place, int button) {
     settle();
 }
 
+void User::click_again() {
+    hand::press();
+    hand::release();
+    settle();
+}
+
 void User::drag(const std::string& control, wxPoint from, wxPoint to) {
+    begin_drag(control, from, to);
+    end_drag();
+}
+
+void User::begin_drag(const std::string& control, wxPoint from, wxPoint to) {
     const wxPoint start = spot(control, from);
     const wxPoint end = spot(control, to);
     hand::move(start.x, start.y);
@@ -134,6 +145,9 @@ void User::drag(const std::string& control, wxPoint from, wxPoint to) {
         hand::move(start.x + (end.x - start.x) * step / steps, start.y + (end.y - start.y) * step / steps);
         settle();
     }
+}
+
+void User::end_drag() {
     hand::release();
     settle();
 }

@@ -23,7 +23,11 @@ class User {
 
     void click(const std::string& control);
     void click_in(const std::string& control, wxPoint place, int button = 1);
+    // At the same place and soon enough to make it a double click.
+    void click_again();
     void drag(const std::string& control, wxPoint from, wxPoint to);
+    void begin_drag(const std::string& control, wxPoint from, wxPoint to);
+    void end_drag();
     void key(const std::string& name);
     void type(const std::string& text);
 

@@ -5,9 +5,37 @@
 #include "screens/wx/tree/tree_window.hpp"
 
 namespace qor::wx {
+namespace {
+
+// The state after the key: the toolkit tells the one before it.
+int shift_state(const wxKeyEvent& event, bool down) {
+    const auto held = [&](bool before, int key) { return event.GetKeyCode() == key ? down : before; };
+    return (held(event.ShiftDown(), WXK_SHIFT) ? 1 : 0) + (held(event.ControlDown(), WXK_CONTROL) ? 2 : 0) +
+           (held(event.AltDown(), WXK_ALT) ? 4 : 0);
+}
+
+}  // namespace
+
+void TreeWindow::bind_keys() {
+    Bind(wxEVT_KEY_DOWN, &TreeWindow::press_key, this);
+    Bind(wxEVT_KEY_UP, [this](wxKeyEvent& event) {
+        user_does_([&] { tree_.release_key(shift_state(event, false)); });
+        event.Skip();
+    });
+    // Before the dialog takes it for its Cancel button.
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() != WXK_ESCAPE || tree_.drag_icon() == 0) {
+            event.Skip();
+            return;
+        }
+        if (HasCapture()) ReleaseMouse();
+        lose_capture();
+    });
+}
 
 void TreeWindow::press_key(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
+    user_does_([&] { tree_.press_key(shift_state(event, true)); });
     if (key == WXK_TAB) {
         Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
         return;
@@ -19,10 +47,11 @@ void TreeWindow::press_key(wxKeyEvent& event) {
                 click_picture(*tree_.selected());
                 taken = true;
             } else {
-                taken = move_selection(key) || fold(key);
+                taken = move_selection(key) || fold(key) || do_command(key);
             }
         });
     }
+    if (event.GetModifiers() == wxMOD_SHIFT && key == WXK_F10) user_does_([&] { taken = do_command(WXK_MENU); });
     if (!taken) event.Skip();
 }
 
@@ -51,6 +80,38 @@ bool TreeWindow::fold(int key) {
         tree_.select(next);
     }
     return true;
+}
+
+bool TreeWindow::do_command(int key) {
+    const TreeNode* node = tree_.selected();
+    if (!node) return false;
+    switch (key) {
+        case WXK_DELETE:
+        case WXK_NUMPAD_DELETE:
+            tree_.delete_selected();
+            return true;
+        case WXK_F2:
+            if (tree_.editable()) tree_.start_label_edit();
+            return true;
+        case WXK_MENU:
+        case WXK_WINDOWS_MENU:
+            show_menu_of(*node);
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Through the pointer, so that the tree's own rules decide.
+void TreeWindow::show_menu_of(const TreeNode& node) {
+    const auto place = tree_.text_point(node);
+    if (!place) return;
+    popup_place_ = text_of(node);
+    Pointer pointer = *place;
+    tree_.move_pointer(pointer);
+    pointer.button = MouseButton::right;
+    tree_.press_pointer(pointer);
+    tree_.release_pointer(pointer);
 }
 
 // Through the pointer, so that the tree's own rule for a click on a picture decides.

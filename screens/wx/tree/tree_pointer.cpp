@@ -3,6 +3,7 @@
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 
+#include "screens/wx/keep_pointer.hpp"
 #include "screens/wx/tree/tree_window.hpp"
 
 namespace qor::wx {
@@ -37,9 +38,11 @@ wxCursor drag_cursor(bool copy) {
 }  // namespace
 
 void TreeWindow::bind_pointer() {
-    for (const auto& pressed : {wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK}) {
-        Bind(pressed, [this](wxMouseEvent& event) { press(event, MouseButton::left); });
-    }
+    Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& event) { press(event, MouseButton::left); });
+    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent& event) {
+        press(event, MouseButton::left);
+        second_press_ = true;
+    });
     for (const auto& pressed : {wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
         Bind(pressed, [this](wxMouseEvent& event) { press(event, MouseButton::right); });
     }
@@ -59,7 +62,7 @@ Pointer TreeWindow::pointer(const wxMouseEvent& event, MouseButton button) const
 
 void TreeWindow::press(const wxMouseEvent& event, MouseButton button) {
     SetFocus();
-    if (!HasCapture()) CaptureMouse();
+    keep_pointer(*this);
     user_does_([&] {
         // The tree goes by the last move, and the rows may have changed under a pointer that stands still.
         tree_.move_pointer(pointer(event, MouseButton::none));
@@ -69,7 +72,11 @@ void TreeWindow::press(const wxMouseEvent& event, MouseButton button) {
 
 void TreeWindow::release(const wxMouseEvent& event, MouseButton button) {
     if (HasCapture()) ReleaseMouse();
-    user_does_([&] { tree_.release_pointer(pointer(event, button)); });
+    const bool twice = std::exchange(second_press_, false) && button == MouseButton::left;
+    user_does_([&] {
+        tree_.release_pointer(pointer(event, button));
+        if (twice) tree_.double_click();
+    });
 }
 
 void TreeWindow::move(const wxMouseEvent& event) {
@@ -82,13 +89,9 @@ void TreeWindow::move(const wxMouseEvent& event) {
     });
 }
 
-// Something else took the pointer: what was being dragged is dropped nowhere.
+// Something else took the pointer.
 void TreeWindow::lose_capture() {
-    user_does_([&] {
-        const Pointer nowhere{.x = -1, .y = -1, .button = MouseButton::left};
-        tree_.move_pointer(nowhere);
-        tree_.release_pointer(nowhere);
-    });
+    user_does_([&] { tree_.cancel_drag(); });
 }
 
 void TreeWindow::scroll_while_dragging(const wxPoint& place) {

@@ -30,7 +30,7 @@ TreeWindow::TreeWindow(wxWindow* parent, TreeView& tree, std::function<void(cons
     SetScrollRate(GetCharWidth(), row_height());
     EnableScrolling(false, false);  // it paints a frame that stays where it is
     bind_pointer();
-    Bind(wxEVT_KEY_DOWN, &TreeWindow::press_key, this);
+    bind_keys();
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { paint(); });
     for (const auto& focus : {wxEVT_SET_FOCUS, wxEVT_KILL_FOCUS}) {
         Bind(focus, [this](wxFocusEvent& event) {
@@ -46,6 +46,8 @@ void TreeWindow::show_tree() {
         scroll_to(*tree_.selected());
     }
     set_cursor();
+    show_label_box();
+    if (tree_.popup() && !std::exchange(popup_shown_, true)) CallAfter(&TreeWindow::show_popup);
     Refresh();
 }
 

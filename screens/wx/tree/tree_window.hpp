@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/scrolwin.h>
+#include <wx/textctrl.h>
 
 #include <functional>
 
@@ -22,6 +23,8 @@ class TreeWindow final : public wxScrolled<wxWindow> {
     // Where a node's picture is, in the window.
     wxPoint picture_of(const TreeNode& node) const;
     wxPoint text_of(const TreeNode& node) const;
+    // Where a text is typed over; null while none is.
+    wxTextCtrl* label_box() const { return label_box_; }
 
   protected:
     wxSize DoGetBestClientSize() const override;
@@ -40,11 +43,19 @@ class TreeWindow final : public wxScrolled<wxWindow> {
     void scroll_while_dragging(const wxPoint& place);
     void set_cursor();
 
+    void bind_keys();
     void press_key(wxKeyEvent& event);
+    bool do_command(int key);
+    void show_menu_of(const TreeNode& node);
     bool move_selection(int key);
     bool fold(int key);
     void click_picture(const TreeNode& node);
     void scroll_to(const TreeNode& node);
+
+    // As the tree asks for them.
+    void show_label_box();
+    void end_label_edit(bool takes_text);
+    void show_popup();
 
     void paint();
     wxSize full_size() const;
@@ -54,6 +65,10 @@ class TreeWindow final : public wxScrolled<wxWindow> {
     double scale_;  // pixels a twip
     const TreeNode* shown_selection_ = nullptr;
     int shown_icon_ = 0;
+    wxTextCtrl* label_box_ = nullptr;
+    bool popup_shown_ = false;
+    wxPoint popup_place_ = wxDefaultPosition;  // without one, where the pointer is
+    bool second_press_ = false;                // of a double click
 };
 
 }  // namespace qor::wx
