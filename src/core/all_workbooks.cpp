@@ -32,27 +32,35 @@ void save_new(const Variant& workbook) {
 
 }  // namespace
 
-void CloseAllWorkbooks() {
-    const bool saves = boolean_option(u"chkT3AutoSaveB4Close", u"0");
-    for (const Variant& workbook : workbooks()) {
-        if (is_add_in(workbook)) continue;
-        if (saves && has_file(workbook)) {
-            workbook.call(names::Close, named(names::SaveChanges, true));
-        } else {
-            workbook.call(names::Close);
-        }
+bool saves_before_close() {
+    return boolean_option(u"chkT3AutoSaveB4Close", u"0");
+}
+
+void close_workbook(const Variant& workbook, bool saves_files) {
+    if (is_add_in(workbook)) return;
+    if (saves_files && has_file(workbook)) {
+        workbook.call(names::Close, named(names::SaveChanges, true));
+    } else {
+        workbook.call(names::Close);
     }
 }
 
-void SaveAllWorkbooks() {
-    for (const Variant& workbook : workbooks()) {
-        if (is_add_in(workbook)) continue;
-        if (!has_file(workbook)) {
-            save_new(workbook);
-        } else if (!to_boolean(workbook.get(names::Saved))) {
-            workbook.call(names::Save);
-        }
+void save_workbook(const Variant& workbook) {
+    if (is_add_in(workbook)) return;
+    if (!has_file(workbook)) {
+        save_new(workbook);
+    } else if (!to_boolean(workbook.get(names::Saved))) {
+        workbook.call(names::Save);
     }
+}
+
+void CloseAllWorkbooks() {
+    const bool saves_files = saves_before_close();
+    for (const Variant& workbook : workbooks()) close_workbook(workbook, saves_files);
+}
+
+void SaveAllWorkbooks() {
+    for (const Variant& workbook : workbooks()) save_workbook(workbook);
 }
 
 void PrintAllWorksheets() {

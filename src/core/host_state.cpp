@@ -10,7 +10,9 @@ SwitchedOff::SwitchedOff(const MemberName& property) : property_(property) {
 }
 
 SwitchedOff::~SwitchedOff() {
-    attempt([&] { gExcel.put(property_, true); });
+    const auto switch_on = [&] { gExcel.put(property_, true); };
+    // A host that stays switched off is of no use, so one failure is not believed.
+    if (attempt(switch_on) != 0) attempt(switch_on);
 }
 
 }  // namespace qor

@@ -21,11 +21,13 @@ void ctlTree::set_check_width() {
 }
 
 void ctlTree::hit_test(const Pointer& pointer) {
+    PointerOnLines = false;
     PointerOnCheck = false;
-    const TreeNode* node = treQOR.node_at(pointer.x, pointer.y);
-    if (!node) return;
-    const double left = treQOR.metrics().indentation * node->level();
+    HoverNode = treQOR.node_at(pointer.x, pointer.y);
+    if (!HoverNode) return;
+    const double left = treQOR.metrics().indentation * HoverNode->level();
     PointerOnCheck = left < pointer.x && pointer.x < left + CheckWidth;
+    PointerOnLines = pointer.x < left;
 }
 
 void ctlTree::node_click(TreeNode& node) {

@@ -8,6 +8,7 @@
 namespace qor {
 namespace {
 
+constexpr int ctrl_key = 2;  // alone
 constexpr std::int32_t sheet_visible = -1;
 constexpr std::int32_t yellow = 65535;
 constexpr std::int32_t red = 255;
@@ -33,15 +34,45 @@ bool is_true(const Variant& object, const MemberName& property) {
 
 }  // namespace
 
-ctlTree::ctlTree(Form& form, std::u16string name) : treQOR(form, std::move(name)) {
-    treQOR.on_mouse_move = [this](const Pointer& pointer) { hit_test(pointer); };
+ctlTree::ctlTree(Form& form, std::u16string name)
+    : treQOR(form, std::move(name)),
+      ID_mnuPopup({{u"ID_CloseAll", u"Close All"},
+                   {u"ID_CloseChecked", u"Close Checked"},
+                   {u"ID_SaveAll", u"Save All", true},
+                   {u"ID_SaveChecked", u"Save Checked"},
+                   {u"ID_DeleteWorksheet", u"Delete Worksheet", true},
+                   {u"ID_RenameWorksheet", u"Rename Worksheet"},
+                   {u"ID_PrintAll", u"Print All", true},
+                   {u"ID_PrintChecked", u"Print Checked"}}) {
+    treQOR.set_editable(true);
+    treQOR.on_mouse_move = [this](const Pointer& pointer) {
+        hit_test(pointer);
+        begin_drag(pointer);
+    };
+    treQOR.on_mouse_down = [this](const Pointer& pointer) { press(pointer); };
+    treQOR.on_mouse_up = [this](const Pointer& pointer) {
+        if (pointer.button == MouseButton::right) show_menu();
+    };
     treQOR.on_node_click = [this](TreeNode& node) { node_click(node); };
+    treQOR.on_double_click = [this] { open_worksheet(); };
+    treQOR.on_key_down = [this](int shift) {
+        if (shift == ctrl_key) drag_as(Drag::copy);
+    };
+    treQOR.on_key_up = [this](int shift) {
+        if (shift != ctrl_key) drag_as(Drag::move);
+    };
+    treQOR.on_drag_over = [this](const Pointer& pointer) { drag_over(pointer); };
+    treQOR.on_drop = [this](const Pointer&) { drop(); };
+    treQOR.on_after_label_edit = [this](const std::u16string& text, bool& cancel) { rename_worksheet(text, cancel); };
+    treQOR.on_before_delete = [this](TreeNode& node, bool& cancel) { ask_to_delete(node, cancel); };
+    ID_mnuPopup.on_command = [this](std::u16string_view id) { run_command(id); };
     set_check_width();
 }
 
 void ctlTree::LoadExcel() {
     attempt([&] { ShowHiddenWorkbooks = boolean_option(u"chkT3ShowHiddenWorkbooks", u"0"); });
     attempt([&] { ShowHiddenWorksheets = boolean_option(u"chkT4ShowHiddenWorksheets", u"0"); });
+    forget_nodes();
     treQOR.clear();
     TreeNode& root = treQOR.add(nullptr, Relationship::child, u"ROOT", u"Excel Workbook Windows", unchecked);
     for (const Variant& workbook : items(gExcel, names::Workbooks)) load_workbook(workbook, root);
@@ -102,12 +133,21 @@ std::int32_t ctlTree::CountWorkbooks(std::u16string_view WorkbookName) const {
 }
 
 std::int32_t ctlTree::CountCheckBoxes(std::int32_t Level) const {
-    std::int32_t count = 0;
+    return static_cast<std::int32_t>(checked_nodes(Level).size());
+}
+
+std::vector<TreeNode*> ctlTree::checked_nodes(std::int32_t level) const {
+    std::vector<TreeNode*> nodes;
     for (std::size_t index = 1; index <= treQOR.count(); ++index) {
-        const TreeNode& node = treQOR.node(index);
-        if (node.level() == Level && node.image() == checked) ++count;
+        TreeNode& node = treQOR.node(index);
+        if (node.level() == level && node.image() == checked) nodes.push_back(&node);
     }
-    return count;
+    return nodes;
+}
+
+// Before any of them goes.
+void ctlTree::forget_nodes() {
+    HoverNode = DragSource = DropTarget = nullptr;
 }
 
 }  // namespace qor

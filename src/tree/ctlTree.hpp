@@ -28,6 +28,15 @@ class ctlTree {
     // How many nodes of that level are checked.
     std::int32_t CountCheckBoxes(std::int32_t Level) const;
 
+    // Inserts so many worksheets into the workbook of each checked window, before or behind all others. Below 1: none.
+    void AddWk(std::int32_t Number, bool AtBeginning);
+    // Deletes the checked worksheets that are empty.
+    void DelEmpWor();
+    // Brings the worksheets of each checked window's workbook into the order of their names.
+    void SorWor(bool Ascending);
+    // Runs the host's spelling check over each checked worksheet, or over its cells only.
+    void SpeCheAll(bool IgnoreHeadersFooters);
+
     // Writes the Worksheet Summary of the checked worksheets, with these headings as its columns.
     void WkSum(std::span<const std::u16string> Fields);
 
@@ -39,6 +48,8 @@ class ctlTree {
     Event<std::int32_t, std::int32_t> Progress;
 
   private:
+    enum class Drag : std::uint8_t { none, move, copy };
+
     void load_workbook(const Variant& workbook, TreeNode& root);
     void load_window(const Variant& window, const Variant& workbook, TreeNode& root);
     void load_worksheet(const Variant& worksheet, TreeNode& window_node);
@@ -51,11 +62,40 @@ class ctlTree {
     void propagate_window(TreeNode& window_node);
     void propagate_worksheet(TreeNode& sheet_node);
     bool is_window_checked() const;
+    // Those of that level, in index order.
+    std::vector<TreeNode*> checked_nodes(std::int32_t level) const;
+
+    void forget_nodes();
+    void show_menu();
+    void run_command(std::u16string_view id);
+    void close_checked();
+    void save_checked();
+    void print_checked();
+    void rename_worksheet(const std::u16string& text, bool& cancel);
+    void ask_to_delete(TreeNode& node, bool& cancel);
+    void delete_worksheet(TreeNode& node);
+    void uncheck(TreeNode& node);
+    void open_worksheet() const;
+
+    void press(const Pointer& pointer);
+    void begin_drag(const Pointer& pointer);
+    void drag_as(Drag mode);
+    void drag_over(const Pointer& pointer);
+    void drop();
+    void place_dragged(const TreeNode& target) const;
 
     bool ShowHiddenWorkbooks = false;
     bool ShowHiddenWorksheets = false;
-    bool PointerOnCheck = false;  // as the last move of the mouse left it
+    // As the last move of the mouse left them.
+    bool PointerOnLines = false;
+    bool PointerOnCheck = false;
+    TreeNode* HoverNode = nullptr;
     std::int32_t CheckWidth = 0;  // twips
+
+    Drag DragMode = Drag::none;
+    TreeNode* DragSource = nullptr;
+    TreeNode* DropTarget = nullptr;
+    PopupMenu ID_mnuPopup;
 };
 
 }  // namespace qor
