@@ -4,6 +4,11 @@
 #include <array>
 
 #include "reports/frmWKSum.hpp"
+#include "tools/sheets/frmAddWk.hpp"
+#include "tools/sheets/frmDelWk.hpp"
+#include "tools/sheets/frmNav.hpp"
+#include "tools/sheets/frmSpChk.hpp"
+#include "tools/sheets/frmSrtWk.hpp"
 
 namespace qor {
 namespace {
@@ -14,6 +19,11 @@ std::unique_ptr<ToolForm> make() {
 }
 
 constexpr std::array table{
+    Tool{u"UTAddWor", u"Add Worksheets", 170000, true, make<frmAddWk>},
+    Tool{u"UTDelEmpWor", u"Delete Empty Worksheets", 170090, true, make<frmDelWk>},
+    Tool{u"UTNav", u"Navigator", 170120, true, make<frmNav>},
+    Tool{u"UTSorWor", u"Sort Worksheets", 170155, true, make<frmSrtWk>},
+    Tool{u"UTSpeCheAll", u"Spell Check", 170160, true, make<frmSpChk>},
     Tool{u"UTWorSum", u"Worksheet Summary", 170190, true, make<frmWKSum>},
 };
 

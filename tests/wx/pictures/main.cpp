@@ -19,6 +19,11 @@
 #include "tests/window/hand.hpp"
 #include "tests/wx/every_kind.hpp"
 #include "tests/wx/user.hpp"
+#include "tools/sheets/frmAddWk.hpp"
+#include "tools/sheets/frmDelWk.hpp"
+#include "tools/sheets/frmNav.hpp"
+#include "tools/sheets/frmSpChk.hpp"
+#include "tools/sheets/frmSrtWk.hpp"
 
 namespace qor::wx {
 const Layouts& test_layouts();
@@ -93,6 +98,24 @@ void take_worksheet_summary(Album& album) {
     });
 }
 
+// A dialog with the tree, one worksheet checked.
+template <class TreeDialog>
+void take_tree(Album& album, std::u16string_view title) {
+    TreeDialog form;
+    form.AppTitle = u"QOR Plus: " + std::u16string(title);
+    album.take(form, [&](User& user) {
+        user.on_screen([&] {
+            TreeView& tree = form.ctlTreeView.treQOR;
+            tree.find(u"model.xls")->set_expanded(true);
+            Pointer box = *tree.picture_point(*tree.find(u"model.xls*Loan"));
+            tree.move_pointer(box);
+            box.button = MouseButton::left;
+            tree.press_pointer(box);
+            tree.release_pointer(box);
+        });
+    });
+}
+
 void take_complete(Album& album) {
     frmComplete form;
     form.show(nullptr);
@@ -138,6 +161,11 @@ int main(int argc, char** argv) {
         use_virtual_display();
         Album album{argv[1]};
         take_worksheet_summary(album);
+        take_tree<frmAddWk>(album, u"Add Worksheets");
+        take_tree<frmDelWk>(album, u"Delete Empty Worksheets");
+        take_tree<frmSrtWk>(album, u"Sort Worksheets");
+        take_tree<frmSpChk>(album, u"Spell Check");
+        take_tree<frmNav>(album, u"Navigator");
         take_complete(album);
         take_about(album);
         take_options(album);
