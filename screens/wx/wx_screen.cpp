@@ -12,12 +12,18 @@ namespace qor {
 struct WxScreen::Modal {
     WxScreen& screen;
 
-    Modal(WxScreen& owner, std::function<void()> cancel) : screen(owner) { screen.modal_.push_back(std::move(cancel)); }
+    Modal(WxScreen& owner, std::function<void()> cancel) : screen(owner) {
+        if (screen.modal_.empty()) screen.host_closing_ = wx::watch_host_closing([&owner] { owner.close_soon(); });
+        screen.modal_.push_back(std::move(cancel));
+    }
     Modal(const Modal&) = delete;
     Modal& operator=(const Modal&) = delete;
     ~Modal() {
         screen.modal_.pop_back();
-        if (screen.modal_.empty()) screen.closing_ = false;
+        if (screen.modal_.empty()) {
+            screen.closing_ = false;
+            screen.host_closing_.reset();
+        }
         if (screen.closing_) screen.close_soon();
     }
 };

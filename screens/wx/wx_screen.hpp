@@ -50,6 +50,7 @@ class WxScreen final : public Screen {
     std::map<const Form*, std::shared_ptr<wx::FormWindow>> windows_;
     std::vector<std::function<void()>> modal_;  // how to cancel each dialog that is open, the uppermost last
     bool closing_ = false;
+    std::shared_ptr<void> host_closing_;  // while a dialog is open
 };
 
 }  // namespace qor

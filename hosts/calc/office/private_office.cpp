@@ -1,15 +1,13 @@
 #include "hosts/calc/office/private_office.hpp"
 
-#include <com/sun/star/bridge/UnoUrlResolver.hpp>
-#include <com/sun/star/connection/NoConnectException.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
-#include <cppuhelper/bootstrap.hxx>
 #include <csignal>
 #include <cstdlib>
 #include <osl/file.hxx>
 #include <rtl/bootstrap.hxx>
 
+#include "hosts/calc/office/office_pipe.hpp"
 #include "hosts/calc/office/office_socket.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/uno/text.hpp"
@@ -42,15 +40,6 @@ std::filesystem::path make_private_folder() {
     std::string name = std::filesystem::temp_directory_path() / "qorplus-XXXXXX";
     if (!::mkdtemp(name.data())) throw OfficeError("no temporary folder can be made as " + name);
     return name;
-}
-
-// The client's half of the bridge. It must know LibreOffice's types and services before anything else is done.
-uno::Reference<uno::XComponentContext> client_context(const std::filesystem::path& program) {
-    static const uno::Reference<uno::XComponentContext> context = [&] {
-        rtl::Bootstrap::set("URE_BOOTSTRAP", text("vnd.sun.star.pathname:" + (program / "fundamentalrc").string()));
-        return cppu::defaultBootstrap_InitialComponentContext();
-    }();
-    return context;
 }
 
 OfficeStart start_options(const std::filesystem::path& program, const std::filesystem::path& folder,
@@ -104,26 +93,19 @@ PrivateOffice::PrivateOffice(const std::filesystem::path& program,
     std::signal(SIGPIPE, SIG_IGN);
     folder_ = make_private_folder();
     process_.emplace(start_options(program, folder_, component_lists, profile, files, screen));
-    client_context(program);
-    connect(folder_.filename());
+    connect(program, folder_.filename());
 }
 
 PrivateOffice::~PrivateOffice() {
     end_within(usual_end);
 }
 
-void PrivateOffice::connect(const std::string& pipe_name) {
-    const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(client_context({}));
-    const rtl::OUString address = text("uno:pipe,name=" + pipe_name + ";urp;StarOffice.ComponentContext");
+void PrivateOffice::connect(const std::filesystem::path& program, const std::string& pipe_name) {
     const auto latest = std::chrono::steady_clock::now() + longest_start;
     while (!context_.is()) {
         if (process_->ends_within(10ms)) throw OfficeError("LibreOffice ended while it was starting");
         if (std::chrono::steady_clock::now() > latest) throw OfficeError("LibreOffice did not answer in 90 seconds");
-        try {
-            context_.set(resolver->resolve(address), uno::UNO_QUERY);
-        } catch (const com::sun::star::connection::NoConnectException&) {
-            continue;  // it is not yet that far
-        }
+        context_ = office_at_pipe(program, pipe_name);
     }
 }
 

@@ -56,7 +56,7 @@ class PrivateOffice {
     bool end_within(std::chrono::milliseconds limit);
 
   private:
-    void connect(const std::string& pipe_name);
+    void connect(const std::filesystem::path& program, const std::string& pipe_name);
 
     std::filesystem::path folder_;
     std::optional<OfficeProcess> process_;

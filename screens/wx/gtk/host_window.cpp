@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
+#include <set>
 #include <vector>
 
 namespace qor::wx {
@@ -32,7 +32,45 @@ GtkWindow* host_window(const NativeWindow& host) {
     return found == windows.end() ? nullptr : *found;
 }
 
+// Stands before GTK while it lives: what a modal dialog keeps from a window is the request to close it, too.
+class ClosingWatch {
+  public:
+    explicit ClosingWatch(std::function<void()> asked) : asked_(std::move(asked)) {
+        gdk_event_handler_set(handle, this, nullptr);
+    }
+    ClosingWatch(const ClosingWatch&) = delete;
+    ClosingWatch& operator=(const ClosingWatch&) = delete;
+    ~ClosingWatch() {
+        gdk_event_handler_set([](GdkEvent* event, gpointer) { gtk_main_do_event(event); }, nullptr, nullptr);
+        for (GtkWindow* window : top_windows()) {
+            if (to_close_.contains(window)) gtk_window_close(window);
+        }
+    }
+
+  private:
+    static void handle(GdkEvent* event, gpointer watch) {
+        auto* window = event->type == GDK_DELETE ? gtk_get_event_widget(event) : nullptr;
+        // A dialog is modal or stands over another window.
+        const bool is_hosts = window && GTK_IS_WINDOW(window) && !gtk_window_get_modal(GTK_WINDOW(window)) &&
+                              !gtk_window_get_transient_for(GTK_WINDOW(window));
+        if (!is_hosts) {
+            gtk_main_do_event(event);
+            return;
+        }
+        auto& self = *static_cast<ClosingWatch*>(watch);
+        self.to_close_.insert(GTK_WINDOW(window));
+        self.asked_();
+    }
+
+    std::function<void()> asked_;
+    std::set<const GtkWindow*> to_close_;
+};
+
 }  // namespace
+
+std::shared_ptr<void> watch_host_closing(std::function<void()> asked) {
+    return std::make_shared<ClosingWatch>(std::move(asked));
+}
 
 void stand_over_host(wxDialog& dialog, const NativeWindow& host) {
     auto* window = GTK_WINDOW(dialog.GetHandle());

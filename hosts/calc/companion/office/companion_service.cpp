@@ -10,6 +10,7 @@
 #include <cppuhelper/supportsservice.hxx>
 
 #include "hosts/calc/companion/office/office_companion.hpp"
+#include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/main_thread.hpp"
 
 namespace qor::calc {
@@ -25,19 +26,35 @@ OfficeCompanion*& running_companion() {
 
 class EndOfOffice final : public cppu::WeakImplHelper1<css::frame::XTerminateListener> {
   public:
+    explicit EndOfOffice(Context context) : context_(std::move(context)) {}
+
     void SAL_CALL queryTermination(const css::lang::EventObject&) override {
-        if (running_companion() && !running_companion()->may_end()) throw css::frame::TerminationVetoException();
+        bool may_end = true;
+        on_main([&] {
+            if (running_companion()) may_end = running_companion()->may_end();
+        });
+        if (!may_end) throw css::frame::TerminationVetoException();
     }
     void SAL_CALL notifyTermination(const css::lang::EventObject&) override {
-        if (auto* companion = std::exchange(running_companion(), nullptr)) companion->stop();
+        on_main([] {
+            if (auto* companion = std::exchange(running_companion(), nullptr)) companion->stop();
+        });
     }
     void SAL_CALL disposing(const css::lang::EventObject&) override {}
+
+  private:
+    // Another program's request comes on another thread.
+    void on_main(const std::function<void()>& work) const {
+        attempt([&] { guarded([&] { run_on_main_thread(context_, work); }); });
+    }
+
+    Context context_;
 };
 
 void start_companion(const Context& context) {
     if (running_companion()) return;
     // Before those of the bars and the events, which do not outlive their own end.
-    css::frame::Desktop::create(context)->addTerminateListener(new EndOfOffice);
+    css::frame::Desktop::create(context)->addTerminateListener(new EndOfOffice(context));
     running_companion() = new OfficeCompanion(context);
     running_companion()->start();
 }

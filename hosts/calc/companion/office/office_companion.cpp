@@ -1,5 +1,7 @@
 #include "hosts/calc/companion/office/office_companion.hpp"
 
+#include <com/sun/star/frame/Desktop.hpp>
+
 #include "core/CCom.hpp"
 #include "core/MMain.hpp"
 #include "core/product.hpp"
@@ -8,6 +10,8 @@
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/bars/bars.hpp"
 #include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/main_thread.hpp"
+#include "hosts/calc/uno/ref.hpp"
 #include "hosts/calc/uno/running_command.hpp"
 #include "platform/text.hpp"
 #include "stores/data_folder.hpp"
@@ -27,7 +31,8 @@ void in_undo_step(std::u16string_view title, const std::function<void()>& comman
 }  // namespace
 
 OfficeCompanion::OfficeCompanion(const css::uno::Reference<css::uno::XComponentContext>& context)
-    : settings_(settings_folder(product::name) / product::settings_file),
+    : context_(context),
+      settings_(settings_folder(product::name) / product::settings_file),
       screen_(context),
       faces_(context),
       bars_(Bars::of(context)),
@@ -55,7 +60,10 @@ void OfficeCompanion::start() {
 }
 
 bool OfficeCompanion::may_end() {
-    if (screen_.close_dialogs()) return false;
+    if (screen_.close_dialogs()) {
+        end_wanted_ = true;
+        return false;
+    }
     run([&] { companion_->save_menu_places(); });
     return true;
 }
@@ -69,8 +77,16 @@ void OfficeCompanion::stop() {
 }
 
 void OfficeCompanion::run(const std::function<void()>& work) {
-    const RunningCommand running;
-    attempt([&] { guarded(work); });
+    {
+        const RunningCommand running;
+        attempt([&] { guarded(work); });
+    }
+    if (!std::exchange(end_wanted_, false)) return;
+    post_to_main_thread(context_, [context = context_] {
+        Ref {
+            css::frame::Desktop::create(context)
+            } -> terminate();
+    });
 }
 
 HostEvents OfficeCompanion::handlers() {

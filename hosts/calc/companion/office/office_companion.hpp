@@ -23,7 +23,8 @@ class OfficeCompanion {
     OfficeCompanion& operator=(const OfficeCompanion&) = delete;
 
     void start();
-    // The office asks whether it may end. No while a dialog of ours is open, which is told to close.
+    // The office asks whether it may end. Not while a dialog of ours is open: that is told to close, and then the
+    // office is asked to end again.
     bool may_end();
     void stop();
 
@@ -33,6 +34,8 @@ class OfficeCompanion {
     HostEvents handlers();
     void set_timers();
 
+    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    bool end_wanted_ = false;
     IniSettingsStore settings_;
     LoadedScreen screen_;
     OfficeFaces faces_;
