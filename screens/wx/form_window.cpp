@@ -38,7 +38,7 @@ void look_again(wxWindow& window) {
 
 FormWindow::FormWindow(Form& form, const Layouts& layouts, wxWindow* parent) : form_(&form) {
     for (Control* control : form.controls()) bound_.push_back(std::make_shared<Bound>(control));
-    dialog_.reset(lay_out(layouts, form.name(), parent,
+    dialog_.reset(lay_out(layouts, form.layout(), parent,
                           [this](const std::u16string& name, wxWindow* inside, const Hints& hints) -> Binding& {
                               return bind_control(name, inside, hints);
                           }));

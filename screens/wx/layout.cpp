@@ -63,7 +63,7 @@ class Resource final : public wxXmlResource {
 
 }  // namespace
 
-wxDialog* lay_out(const Layouts& layouts, const std::u16string& form, wxWindow* parent, const ControlMaker& make) {
+wxDialog* lay_out(const Layouts& layouts, std::u16string_view form, wxWindow* parent, const ControlMaker& make) {
     const auto layout = layouts.find(form);
     if (layout == layouts.end()) throw std::logic_error(to_utf8(form) + " has no layout");
     wxMemoryInputStream text(layout->second.data(), layout->second.size());

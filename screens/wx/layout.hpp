@@ -11,7 +11,7 @@
 
 namespace qor::wx {
 
-// Layouts of forms, XRC in UTF-8, by the name of the form.
+// Layouts of forms, XRC in UTF-8, by the name that a form gives for its layout.
 using Layouts = std::map<std::u16string_view, std::string_view>;
 
 // Those of resources/forms.
@@ -22,6 +22,6 @@ using ControlMaker = std::function<Binding&(const std::u16string& name, wxWindow
 
 // A dialog after the form's layout. Raises std::logic_error for a form without a layout and for a layout that cannot be
 // followed.
-wxDialog* lay_out(const Layouts& layouts, const std::u16string& form, wxWindow* parent, const ControlMaker& make);
+wxDialog* lay_out(const Layouts& layouts, std::u16string_view form, wxWindow* parent, const ControlMaker& make);
 
 }  // namespace qor::wx

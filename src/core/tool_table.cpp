@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/frmCellInfo.hpp"
+#include "reports/frmDtRev.hpp"
+#include "reports/frmWBSum.hpp"
 #include "reports/frmWKSum.hpp"
 #include "tools/sheets/frmAddWk.hpp"
 #include "tools/sheets/frmDelWk.hpp"
@@ -20,10 +23,13 @@ std::unique_ptr<ToolForm> make() {
 
 constexpr std::array table{
     Tool{u"UTAddWor", u"Add Worksheets", 170000, true, make<frmAddWk>},
+    Tool{u"UTCelInf", u"Cell Information", 170030, true, make<frmCellInfo>},
+    Tool{u"UTDatRev", u"Date Review", 170080, true, make<frmDtRev>},
     Tool{u"UTDelEmpWor", u"Delete Empty Worksheets", 170090, true, make<frmDelWk>},
     Tool{u"UTNav", u"Navigator", 170120, true, make<frmNav>},
     Tool{u"UTSorWor", u"Sort Worksheets", 170155, true, make<frmSrtWk>},
     Tool{u"UTSpeCheAll", u"Spell Check", 170160, true, make<frmSpChk>},
+    Tool{u"UTWokSum", u"Workbook Summary", 170180, true, make<frmWBSum>},
     Tool{u"UTWorSum", u"Worksheet Summary", 170190, true, make<frmWKSum>},
 };
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,7 +20,32 @@ struct ReportColumn {
     std::u16string_view key;
     std::u16string_view heading;
     Variant (*read)(Source&);
+    // The number format that the field's cell takes before the value; null: it keeps its own.
+    const Variant* (*format)(Source&) = nullptr;
+    // The text by which a heading is known when the report is written.
+    std::u16string_view literal = heading;
 };
+
+// The column of each heading; null for a heading that the report does not have, which stays blank.
+template <class Column>
+std::vector<const Column*> columns_for(std::span<const std::u16string> headings, std::span<const Column> all) {
+    std::vector<const Column*> columns;
+    for (const std::u16string& heading : headings) {
+        const auto column = std::ranges::find(all, heading, &Column::literal);
+        columns.push_back(column == all.end() ? nullptr : &*column);
+    }
+    return columns;
+}
+
+// What a record holds in these columns; nothing where there is no column and where reading fails.
+template <class Source>
+std::vector<std::optional<Variant>> values_of(const std::vector<const ReportColumn<Source>*>& columns, Source& source) {
+    std::vector<std::optional<Variant>> values(columns.size());
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+        if (columns[place]) attempt([&] { values[place] = columns[place]->read(source); });
+    }
+    return values;
+}
 
 // One entry of the list of fields in a report's dialog.
 struct ReportField {

@@ -19,6 +19,8 @@ class ReportForm : public ToolForm {
     ctlTree ctlTreeView{*this, u"ctlTreeView"};
     Buttons cmdButton{*this, u"cmdButton", {{0, u"OK"}, {1, u"Cancel"}, {4, u"Help"}}};
 
+    std::u16string_view layout() const noexcept final { return u"report"; }
+
   protected:
     explicit ReportForm(std::u16string_view name);
 

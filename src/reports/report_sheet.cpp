@@ -1,12 +1,14 @@
 #include "reports/report_sheet.hpp"
 
 #include <algorithm>
+#include <limits>
 #include <ranges>
 #include <vector>
 
 #include "automation/member_names.hpp"
 #include "core/MMain.hpp"
 #include "core/boolean_option.hpp"
+#include "reports/cell_area.hpp"
 #include "runtime/clock.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/format.hpp"
@@ -82,6 +84,62 @@ void ReportSheet::add_record(std::span<const std::optional<Variant>> values) {
     ++row_;
     for_row(values.size(), [](const Object& range) { range.put(names::HorizontalAlignment, align_left); });
     write_values(values);
+}
+
+void ReportSheet::add_records(std::span<RecordColumn> columns) {
+    if (columns.empty() || columns.front().values.empty() || full()) return;
+    const auto count = static_cast<std::int64_t>(columns.front().values.size());
+    const auto rows = static_cast<std::int32_t>(std::min<std::int64_t>(count, last_row() - row_));
+    by_halves({row_ + 1, 1, rows, static_cast<std::int32_t>(columns.size())},
+              [&](const CellArea& part) { range_of(sheet(), part).put(names::HorizontalAlignment, align_left); });
+    const auto has_formats = [](const RecordColumn& column) { return !column.formats.empty(); };
+    // What takes the formats of elsewhere is written by itself: there the host may have to read the values.
+    for (auto begin = columns.begin(); begin != columns.end();) {
+        const auto end = has_formats(*begin) ? begin + 1 : std::find_if(begin, columns.end(), has_formats);
+        const auto first_column = static_cast<std::int32_t>(begin - columns.begin()) + 1;
+        if (has_formats(*begin)) write_formats(first_column, *begin, rows);
+        write_block(first_column, {begin, end}, rows);
+        begin = end;
+    }
+    row_ += rows;
+}
+
+void ReportSheet::write_formats(std::int32_t column, const RecordColumn& records, std::int32_t rows) {
+    const auto formats = std::span(records.formats).first(static_cast<std::size_t>(rows));
+    for (auto begin = formats.begin(); begin != formats.end();) {
+        const auto end = std::find_if_not(begin, formats.end(), [&](const Variant* other) { return other == *begin; });
+        const auto first_row = row_ + 1 + static_cast<std::int32_t>(begin - formats.begin());
+        if (*begin) {
+            by_halves({first_row, column, static_cast<std::int32_t>(end - begin), 1},
+                      [&](const CellArea& part) { range_of(sheet(), part).put(names::NumberFormat, **begin); });
+        }
+        begin = end;
+    }
+}
+
+void ReportSheet::write_block(std::int32_t first_column, std::span<RecordColumn> columns, std::int32_t rows) {
+    by_halves({row_ + 1, first_column, rows, static_cast<std::int32_t>(columns.size())}, [&](const CellArea& part) {
+        const auto value_at = [&](std::int32_t row, std::int32_t column) -> const Variant& {
+            const RecordColumn& records = columns[static_cast<std::size_t>(part.column - first_column + column)];
+            return records.values[static_cast<std::size_t>(part.row - row_ - 1 + row)];
+        };
+        if (part.cells() == 1) return range_of(sheet(), part).put(names::Value, value_at(0, 0));
+        Array array = Array::table(static_cast<std::size_t>(part.rows), static_cast<std::size_t>(part.columns));
+        std::size_t place = 0;
+        for (std::int32_t row = 0; row < part.rows; ++row) {
+            for (std::int32_t column = 0; column < part.columns; ++column) array.at(place++) = value_at(row, column);
+        }
+        range_of(sheet(), part).put(names::Value, std::move(array));
+    });
+}
+
+bool ReportSheet::full() {
+    return row_ >= last_row();
+}
+
+std::int32_t ReportSheet::last_row() {
+    if (last_row_ == 0) attempt([&] { last_row_ = to_long(sheet().get(names::Rows).get(names::Count)); });
+    return last_row_ == 0 ? std::numeric_limits<std::int32_t>::max() : last_row_;
 }
 
 // Writes each run of neighbouring values at once.

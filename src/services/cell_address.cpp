@@ -15,6 +15,15 @@ std::u16string doubled(std::u16string_view part) {
 
 }  // namespace
 
+std::u16string relative_address(std::int32_t row, std::int32_t column) {
+    std::u16string address;
+    for (; row > 0; row /= 10) address.insert(address.begin(), static_cast<char16_t>(u'0' + row % 10));
+    for (; column > 0; column = (column - 1) / 26) {
+        address.insert(address.begin(), static_cast<char16_t>(u'A' + (column - 1) % 26));
+    }
+    return address;
+}
+
 std::u16string_view first_area(std::u16string_view address) {
     return address.substr(0, address.find(u','));
 }

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace qor {
+
+// The relative address of the cell in that row and column, counted from 1: "B7".
+std::u16string relative_address(std::int32_t row, std::int32_t column);
 
 // How an address is reduced to what a form wants of it. Addresses are relative and name no sheet: "C3,A1:B2".
 

@@ -37,7 +37,11 @@ class ctlTree {
     // Runs the host's spelling check over each checked worksheet, or over its cells only.
     void SpeCheAll(bool IgnoreHeadersFooters);
 
-    // Writes the Worksheet Summary of the checked worksheets, with these headings as its columns.
+    // The reports on what is checked, each with these headings as its columns: on the cells of worksheets, on those
+    // that are dates, on workbooks and on worksheets.
+    void CellInfo(std::span<const std::u16string> Fields);
+    void DtRev(std::span<const std::u16string> Fields);
+    void WBSum(std::span<const std::u16string> Fields);
     void WkSum(std::span<const std::u16string> Fields);
 
     // The form is to close.

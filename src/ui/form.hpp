@@ -22,6 +22,8 @@ class Form {
     const std::u16string& name() const noexcept { return name_; }
     Screen& screen() const noexcept { return screen_; }
     virtual std::u16string_view caption() const noexcept = 0;
+    // The layout of its window; forms that differ only in what their controls hold share one.
+    virtual std::u16string_view layout() const noexcept { return name_; }
     virtual std::int32_t help_id() const noexcept { return 0; }  // 0: the form has no help
 
     // In the order in which they stand in the form.
