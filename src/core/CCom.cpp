@@ -3,6 +3,7 @@
 #include "automation/member_names.hpp"
 #include "core/CReg.hpp"
 #include "core/MMain.hpp"
+#include "core/bookmark_jump.hpp"
 #include "core/boolean_option.hpp"
 #include "core/frmAbout.hpp"
 #include "core/frmOptions.hpp"
@@ -105,6 +106,12 @@ void CCom::UTAltTem(const Object& objoleEx) {
     } else if (const std::u16string file = text_option(u"txtT2AlternateTemplateFile"); !file.empty()) {
         gExcel.get(names::Workbooks).call(names::Add, file);
     }
+    gExcel = Object();
+}
+
+void CCom::UTBoo(const Object& objoleEx, std::optional<std::int32_t> lRun) {
+    gExcel = objoleEx;
+    jump_to_bookmark(QThisWrkBkPath + u"\\Bookmarks.dat", lRun.value_or(0) != 0);
     gExcel = Object();
 }
 

@@ -46,6 +46,8 @@ class CCom final : public Dispatch {
     void QAbout();
     void UTOpt(const Object& objoleEx);
     void UTAltTem(const Object& objoleEx);
+    // With lRun other than 0 a bookmark whose workbook is gone is not spoken of.
+    void UTBoo(const Object& objoleEx, std::optional<std::int32_t> lRun);
     void QAlwCreBacBefSav(const Object& objoleEx, const std::optional<std::u16string>& sWorkbookName);
     // Shows the comment of the cell that is now selected, and hides that of the one before, which the companion tells.
     void QSheetSelectionChange(const Object& objoleEx, const std::u16string& sTargetWorksheet,

@@ -100,6 +100,7 @@ void add_commands(std::vector<Row>& rows) {
                     command(u"UTCleRecFil", ClearRecentFiles, {u"bTB"}),
                     method<&CCom::UTOpt>(u"UTOpt", {application}, OnError::raise),
                     method<&CCom::UTAltTem>(u"UTAltTem", {application}, OnError::raise),
+                    method<&CCom::UTBoo>(u"UTBoo", {application, u"lRun"}, OnError::raise),
                     method<&CCom::QAbout>(u"QAbout", {}, OnError::raise),
                     free_method(u"UTOpenWWW", OpenWWWURL, {u"sURL"}),
                     free_method(u"UTSendMail", SendMail, {u"sRecipient", u"sCC", u"sBCC", u"sSubject", u"sBody"}),

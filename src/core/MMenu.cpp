@@ -5,12 +5,11 @@
 
 #include "automation/member_names.hpp"
 #include "core/MMain.hpp"
+#include "core/bookmark_list.hpp"
 #include "core/menu_table.hpp"
 #include "core/product.hpp"
 #include "core/toolbar_places.hpp"
 #include "runtime/conversion.hpp"
-#include "services/CFile.hpp"
-#include "stores/CBookmark.hpp"
 
 namespace qor {
 namespace {
@@ -163,36 +162,10 @@ Object add_top_popup() {
     return top;
 }
 
-// Wherever the user has moved it.
-Object bookmark_list() {
-    Object list;
-    for (const Variant& bar : command_bars()) {
-        attempt([&] {
-            list = bar.call(names::FindControl, named(names::Type, drop_down), named(names::Tag, product::title));
-        });
-        if (list) break;
-    }
-    return list;
-}
-
-void fill_bookmarks() {
-    std::u16string path;
-    attempt([&] { path = to_text(gExcel.get(names::ThisWorkbook).get(names::Path)); });
-    path += u"\\Bookmarks.dat";
-    if (!CFile::FileExists(path)) {
-        environment().screen.message_box(
-            {.title = std::u16string(product::title),
-             .text = u"Sorry, but the filename " + path + u" is missing.  Please contact technical support.",
-             .icon = MessageIcon::critical});
-        return;
-    }
-    const Object list = bookmark_list();
-    if (!list) return;
-    CBookmark().LoadExcelCombo(path, list);
-    attempt([&] {
-        if (to_long(list.get(names::ListCount)) == 0) list.call(names::AddItem, u"(Bookmarks)");
-    });
-    put(list, names::ListIndex, 1);
+std::u16string bookmark_file() {
+    std::u16string folder;
+    attempt([&] { folder = to_text(gExcel.get(names::ThisWorkbook).get(names::Path)); });
+    return folder + u"\\Bookmarks.dat";
 }
 
 // A control that the host does not let go ends the search on its bar.
@@ -212,7 +185,7 @@ void create_menu(const MacroExists& exists) {
     add_groups(top, exists);
     add_closing_entries(top);
     for (const MenuGroup& group : menu_groups()) restore_place(group.toolbar, command_bar(bar_name(group.toolbar)));
-    fill_bookmarks();
+    fill_bookmark_list(bookmark_file());
     attempt([&] { gExcel.put(names::ScreenUpdating, true); });
 }
 

@@ -143,6 +143,8 @@ class FakeBarObject final : public Dispatch {
             return std::ranges::all_of(arguments.named, [&](const NamedArgument& argument) {
                 if (argument.name == names::Type) return control.type == to_long(argument.value);
                 if (argument.name == names::Id) return control.id == to_long(argument.value);
+                if (argument.name == names::Visible)
+                    return (control.text(u"Visible") != u"False") == to_boolean(argument.value);
                 return argument.name == names::Tag && control.text(u"Tag") == to_text(argument.value);
             });
         };

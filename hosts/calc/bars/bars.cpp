@@ -135,9 +135,8 @@ void Bars::face_changed(const Control& control) {
 }
 
 void Bars::list_changed(const Control& control) {
-    for (ListOnToolbar* list : lists_) {
-        if (list->command() == control.command) list->fill(control);
-    }
+    changed_lists_.insert(control.command);
+    schedule();
 }
 
 void Bars::schedule() {
@@ -155,6 +154,16 @@ void Bars::flush() {
         // One bar that the office refuses does not keep the others from the user.
         attempt([&] { guarded([&] { bar->built_in ? flush_built_in(*bar) : flush_own(*bar); }); });
     }
+    const auto changed_lists = std::exchange(changed_lists_, {});
+    for (ListOnToolbar* list : lists_) {
+        if (changed_lists.contains(list->command())) fill(*list);
+    }
+}
+
+void Bars::fill(ListOnToolbar& list) {
+    const auto found = own_.find(list.command());
+    const ControlPointer control = found == own_.end() ? nullptr : found->second.lock();
+    if (control) attempt([&] { guarded([&] { list.fill(*control); }); });
 }
 
 void Bars::flush_built_in(Bar& bar) {
@@ -228,8 +237,7 @@ void Bars::enter(const Ref<css::frame::XFrame>& frame) {
 
 void Bars::attach(ListOnToolbar& list) {
     lists_.push_back(&list);
-    const auto found = own_.find(list.command());
-    if (const ControlPointer control = found == own_.end() ? nullptr : found->second.lock()) list.fill(*control);
+    fill(list);
 }
 
 void Bars::detach(ListOnToolbar& list) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "hosts/calc/bars/bar_content.hpp"
@@ -86,6 +87,7 @@ class Bars : public std::enable_shared_from_this<Bars> {
     void forget(const Controls& controls);
     void flush_built_in(Bar& bar);
     void flush_own(Bar& bar);
+    void fill(ListOnToolbar& list);
     void schedule();
     void run(const std::u16string& macro);
 
@@ -93,6 +95,7 @@ class Bars : public std::enable_shared_from_this<Bars> {
     std::vector<BarPointer> bars_;
     std::map<std::u16string, std::weak_ptr<Control>, std::less<>> own_;  // by command
     std::vector<ListOnToolbar*> lists_;
+    std::set<std::u16string, std::less<>> changed_lists_;  // by command
     std::function<void(const std::u16string&)> macro_runner_;
     std::int32_t last_toolbar_ = 0;
     std::int32_t last_control_ = 0;
