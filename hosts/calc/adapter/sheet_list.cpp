@@ -1,7 +1,9 @@
 #include "hosts/calc/adapter/sheet_list.hpp"
 
 #include <algorithm>
+#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
 #include <set>
 
 #include "hosts/calc/adapter/selection.hpp"
@@ -39,9 +41,23 @@ void remove_from_book(const Sheet& sheet) {
 
 }  // namespace
 
+Sheet sheet_at(const Book& book, std::int32_t place) {
+    const Ref<css::container::XIndexAccess> sheets(Ref{book.document->getSheets()});
+    if (place < 0 || place >= sheets->getCount()) throw Error(ErrorNumber::subscript_out_of_range);
+    return {book, Ref<css::sheet::XSpreadsheet>(sheets->getByIndex(place))};
+}
+
+// The office itself would let programs do it.
+void before_structure_change(const Book& book) {
+    if (Ref<css::util::XProtectable>(book.document)->isProtected()) {
+        throw Error(ErrorNumber::host_refused, {}, u"Workbook is protected and cannot be changed.");
+    }
+    before_change(book);
+}
+
 Sheet insert_sheets(const Book& book, std::int32_t place, std::int32_t count) {
     if (count < 1) throw Error(ErrorNumber::host_refused);
-    before_change(book);
+    before_structure_change(book);
     std::set<std::u16string> taken = names_in_capitals(book);
     const Ref sheets{book.document->getSheets()};
     std::u16string name;
@@ -68,7 +84,7 @@ void rename_sheet(const Sheet& sheet, std::u16string_view name) {
     const std::u16string old_name = sheet.name();
     if (old_name == name) return;
     if (!equal_ignoring_case(old_name, name) && names_in_capitals(sheet.book).contains(to_upper(name))) refused();
-    before_change(sheet.book);
+    before_structure_change(sheet.book);
     Ref<css::container::XNamed>(sheet.sheet)->setName(to_uno(name));
     if (sheet.name() != name) refused();
     move_sheet_marks(sheet.book, old_name, std::u16string(name));
@@ -84,7 +100,7 @@ void require_other_visible_sheet(const Sheet& sheet) {
 
 void delete_sheet(const Sheet& sheet) {
     require_other_visible_sheet(sheet);
-    before_change(sheet.book);
+    before_structure_change(sheet.book);
     remove_from_book(sheet);
 }
 

@@ -4,7 +4,13 @@
 
 namespace qor::calc {
 
+// The sheet in that place, from 0. Raises 9 when there is none.
+Sheet sheet_at(const Book& book, std::int32_t place);
+
 // Each of these raises 1004 when the workbook or the office does not allow it.
+
+// To be called before sheets come, go, move or are renamed, shown or hidden.
+void before_structure_change(const Book& book);
 
 // Inserts new sheets in front of the place (from 0) under unused names and brings the first one to the front, which
 // it answers.

@@ -9,7 +9,6 @@
 #include "hosts/calc/adapter/sheet_list.hpp"
 #include "hosts/calc/adapter/sheet_marks.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
-#include "hosts/calc/adapter/write_guard.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
@@ -41,10 +40,6 @@ std::u16string copy_name(const Book& book, const std::u16string& name) {
         std::u16string candidate = base.substr(0, longest_name - ending.size()) + ending;
         if (!has_sheet(book, candidate)) return candidate;
     }
-}
-
-Sheet sheet_at(const Book& book, std::int32_t index) {
-    return book.sheets().at(static_cast<std::size_t>(index));
 }
 
 void set_name(const Sheet& sheet, const std::u16string& name) {
@@ -89,7 +84,7 @@ Sheet import_into_new_book(const Sheet& sheet) {
 }
 
 Sheet import_with_marks(const Sheet& sheet, const std::optional<SheetPlace>& place) {
-    if (place) before_change(place->book);
+    if (place) before_structure_change(place->book);
     Sheet copy = place ? import(sheet, *place) : import_into_new_book(sheet);
     set_sheet_marks(copy, sheet_marks(sheet));
     return copy;
@@ -103,7 +98,7 @@ void copy_sheet(const Sheet& sheet, const std::optional<SheetPlace>& place) {
         bring_to_front(import_with_marks(sheet, place));
         return;
     }
-    before_change(sheet.book);
+    before_structure_change(sheet.book);
     const Sheet copy = copy_inside(sheet, place->index);
     set_sheet_marks(copy, sheet_marks(sheet));
     bring_to_front(copy);
@@ -111,7 +106,7 @@ void copy_sheet(const Sheet& sheet, const std::optional<SheetPlace>& place) {
 
 void move_sheet(const Sheet& sheet, const std::optional<SheetPlace>& place) {
     const UndoStep step(u"Move Sheet");
-    before_change(sheet.book);
+    before_structure_change(sheet.book);
     if (!place || !(place->book.document == sheet.book.document)) {
         require_other_visible_sheet(sheet);
         const Sheet moved = import_with_marks(sheet, place);

@@ -1,3 +1,5 @@
+#include <com/sun/star/container/XIndexAccess.hpp>
+
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/objects.hpp"
 #include "hosts/calc/adapter/selection.hpp"
@@ -24,14 +26,16 @@ class SheetsObject final : public CalcObject<SheetsObject> {
   private:
     std::vector<Sheet> sheets() const { return chosen_ ? *chosen_ : book_.sheets(); }
 
-    std::int32_t count() { return static_cast<std::int32_t>(sheets().size()); }
+    std::int32_t count() {
+        if (chosen_) return static_cast<std::int32_t>(chosen_->size());
+        return Ref<css::container::XIndexAccess>(Ref{book_.document->getSheets()})->getCount();
+    }
 
     Sheet sheet(const Variant& index) const {
-        const std::vector<Sheet> all = sheets();
         const auto* name = index.get_if<std::u16string>();
-        if (!name) return element_at(all, to_long(index));
-        if (!chosen_) return book_.sheet(*name);
-        for (const Sheet& candidate : all) {
+        if (!chosen_) return name ? book_.sheet(*name) : sheet_at(book_, to_long(index) - 1);
+        if (!name) return element_at(*chosen_, to_long(index));
+        for (const Sheet& candidate : *chosen_) {
             if (candidate.name() == *name) return candidate;
         }
         throw Error(ErrorNumber::subscript_out_of_range);

@@ -54,7 +54,7 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     // True is -1 too; any other number that is not 0 or 2 shows the sheet.
     void set_visible(std::int32_t state) {
         const bool shown = state != hidden_sheet && state != very_hidden_sheet;
-        before_change(sheet_.book);
+        before_structure_change(sheet_.book);
         set_property(sheet_.sheet, "IsVisible", shown);
         // The last visible sheet stays as it is without a word.
         if (get_property<bool>(sheet_.sheet, "IsVisible") != shown) throw Error(ErrorNumber::host_refused);
