@@ -110,4 +110,30 @@ TEST_CASE("names of a read-only workbook stay") {
     CHECK(fixed.get(names::RefersTo) == u"=Sheet1!$A$1");
 }
 
+TEST_CASE("the name of exactly these cells") {
+    const Calc calc;
+    const Object book = calc.add_book();
+    const Object sheet = book.get(names::Worksheets, 1);
+    const Object other = book.get(names::Worksheets).call(names::Add);
+    const Object cells = sheet.get(names::Range, u"B2:C4");
+    CHECK(error_of([&] { cells.get(names::Name); }) == 1004);
+    cells.put(names::Name, u"Rates");
+    CHECK(cells.get(names::Name).get(names::Name) == u"Rates");
+    CHECK(cells.get(names::Name).get(names::RefersTo) == u"=Sheet1!$B$2:$C$4");
+    CHECK(book.get(names::Names).get(names::Count) == 1);
+    CHECK(error_of([&] { sheet.get(names::Range, u"B2").get(names::Name); }) == 1004);
+    CHECK(error_of([&] { sheet.get(names::Range, u"B2:C4,E1").get(names::Name); }) == 1004);
+    CHECK(error_of([&] { other.get(names::Range, u"B2:C4").get(names::Name); }) == 1004);
+    cells.put(names::Name, u"Areas");
+    CHECK(cells.get(names::Name).get(names::Name) == u"Areas");
+    CHECK(error_of([&] { cells.put(names::Name, u"not a name"); }) == 1004);
+    cells.get(names::Name).call(names::Delete);
+    CHECK(cells.get(names::Name).get(names::Name) == u"Rates");
+    other.put(names::Name, u"My Data");
+    other.get(names::Range, u"A1,C3").put(names::Name, u"Two_Areas");
+    CHECK(book.get(names::Names, u"Two_Areas").get(names::RefersTo) == u"='My Data'!$A$1,'My Data'!$C$3");
+    sheet.get(names::Rows, 1).call(names::Insert);
+    CHECK(sheet.get(names::Range, u"B3:C5").get(names::Name).get(names::Name) == u"Rates");
+}
+
 }  // namespace qor::calc::tests

@@ -129,4 +129,27 @@ TEST_CASE("how cells look") {
     CHECK(cell.get(names::ColumnWidth) == 20.0);
 }
 
+TEST_CASE("lines across cells") {
+    for (const char* file : {"", "across.xlsx", "across.xls", "across.ods"}) {
+        CAPTURE(file);
+        const Calc calc;
+        const Object book = calc.add_book();
+        Object cells = book.get(names::Worksheets, 1).get(names::Range, u"B2:C3");
+        CHECK(cells.get(names::Borders, 5).get(names::LineStyle) == -4142);
+        cells.get(names::Borders, 5).put(names::LineStyle, 1);
+        cells.get(names::Borders, 5).put(names::Color, 255);
+        cells.get(names::Borders, 6).put(names::LineStyle, 1);
+        cells.get(names::Borders, 6).put(names::LineStyle, -4142);
+        if (*file) cells = calc.reopened(book, file).get(names::Worksheets, 1).get(names::Range, u"B2:C3");
+        CHECK(cells.get(names::Borders, 5).get(names::LineStyle) == 1);
+        CHECK(cells.get(names::Borders, 5).get(names::Color) == 255);
+        CHECK(cells.get(names::Borders, 5).get(names::Weight) == 2);
+        CHECK(cells.get(names::Borders, 6).get(names::LineStyle) == -4142);
+        CHECK(cells.get(names::Borders, 9).get(names::LineStyle) == -4142);
+        cells.get(names::Cells, 1, 1).get(names::Borders, 5).put(names::LineStyle, -4142);
+        CHECK(cells.get(names::Borders, 5).get(names::LineStyle) == Variant(Null{}));
+        CHECK(cells.get(names::Cells, 2, 2).get(names::Borders, 5).get(names::LineStyle) == 1);
+    }
+}
+
 }  // namespace qor::calc::tests

@@ -4,6 +4,7 @@
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 
 #include "hosts/calc/adapter/blank_cells.hpp"
+#include "hosts/calc/adapter/formats_before.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
@@ -20,21 +21,46 @@ const Variant& value_for(const Variant& value, std::size_t row, std::size_t colu
     return array->at(from_row, from_column);
 }
 
+// Which cells of the area, row by row, have the format of text; empty when none has.
+std::vector<bool> cells_of_text(const std::vector<KindOfCells>& kinds, const Rectangle& area) {
+    std::vector<bool> result;
+    for (const KindOfCells& run : kinds) {
+        if (run.kind != NumberKind::text) continue;
+        result.resize(static_cast<std::size_t>(area.cells()));
+        for (const css::table::CellRangeAddress& at : run.places) {
+            for (std::int32_t row = at.StartRow; row <= at.EndRow; ++row) {
+                const auto start = result.begin() + std::int64_t{row - area.top} * area.width() - area.left;
+                std::fill(start + at.StartColumn, start + at.EndColumn + 1, true);
+            }
+        }
+    }
+    return result;
+}
+
 }  // namespace
 
 AreaWriter::AreaWriter(const Sheet& sheet, const Cells& cells, const Variant& value)
     : sheet_(sheet), cells_(cells), area_(rectangle_of(cells)) {
     const double shift = days_to_null_date(sheet);
     const auto size = static_cast<std::size_t>(area_.cells());
+    const std::vector<KindOfCells> before = number_kinds(sheet, cells);
+    const std::vector<bool> of_text = cells_of_text(before, area_);
+    const bool all_text = !of_text.empty() && std::ranges::find(of_text, false) == of_text.end();
+    const auto is_text = [&](std::size_t place) { return !of_text.empty() && of_text[place]; };
     if (!value.array()) {
-        const CellEntry entry = entry_of(value, sheet, shift);
+        const CellEntry entry = all_text ? entry_into_text(value, sheet, shift) : entry_of(value, sheet, shift);
         entries_.assign(entry.way == Way::formula ? 1 : size, entry);
+        // A formula for cells of which only some are of text goes into all of them.
+        for (std::size_t place = 0; place < of_text.size() && entry.way != Way::formula && !all_text; ++place) {
+            if (is_text(place)) entries_[place] = entry_into_text(value, sheet, shift);
+        }
     } else {
         entries_.reserve(size);
         for (std::int32_t row = 0; row < area_.height(); ++row) {
             for (std::int32_t column = 0; column < area_.width(); ++column) {
                 const Variant& one = value_for(value, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
-                entries_.push_back(entry_of(one, sheet, shift));
+                entries_.push_back(is_text(entries_.size()) ? entry_into_text(one, sheet, shift)
+                                                            : entry_of(one, sheet, shift));
                 if (entries_.back().way != Way::formula) continue;
                 const auto* text = one.get_if<std::u16string>();
                 patterns_.push_back(formula_pattern(text ? *text : std::get<std::u16string>(entries_.back().content),
@@ -44,7 +70,7 @@ AreaWriter::AreaWriter(const Sheet& sheet, const Cells& cells, const Variant& va
     }
     std::vector<NumberKind> kinds(entries_.size());
     std::ranges::transform(entries_, kinds.begin(), &CellEntry::kind);
-    kind_changes_ = number_kind_changes(sheet_, cells_, kinds);
+    kind_changes_ = number_kind_changes(area_, before, kinds);
 }
 
 bool AreaWriter::is_one_call() const {
@@ -65,7 +91,10 @@ void AreaWriter::write() {
     const auto has = [&](Way way) {
         return std::ranges::any_of(entries_, [way](const CellEntry& entry) { return entry.way == way; });
     };
+    std::optional<FormatsBefore> formats;
+    if (std::ranges::any_of(entries_, &CellEntry::seems_more)) formats.emplace(cells_);
     if (has(Way::data)) write_data();
+    if (formats) formats->put_back();
     apply_number_kinds(sheet_, kind_changes_);
     if (has(Way::formula)) {
         enter_formulas_here();

@@ -3,9 +3,9 @@
 #include <com/sun/star/container/XEnumeration.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/frame/XModel2.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
-#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 
 #include "hosts/calc/adapter/file_paths.hpp"
@@ -59,8 +59,12 @@ std::vector<Ref<css::frame::XController>> Book::controllers() const {
 }
 
 Sheet::Sheet(Book of, Ref<css::sheet::XSpreadsheet> which) : book(std::move(of)), sheet(std::move(which)) {
-    if (!sheet) throw Error(ErrorNumber::host_refused);
-    life_ = book.host->sheet_lives().hold(book.document, sheet);
+    Ways ways{Ref<css::sheet::XCellRangeAddressable>(sheet),
+              Ref<css::sheet::XCellRangesAccess>(Ref{book.document->getSheets()}),
+              Ref{Ref<css::drawing::XDrawPagesSupplier>(book.document)->getDrawPages()},
+              {}};
+    ways.page = Ref<css::uno::XInterface>(ways.pages->getByIndex(ways.place->getRangeAddress().Sheet));
+    ways_ = std::make_shared<const Ways>(std::move(ways));
 }
 
 std::u16string Sheet::name() const {
@@ -68,11 +72,21 @@ std::u16string Sheet::name() const {
 }
 
 std::int32_t Sheet::index() const {
-    return Ref<css::sheet::XCellRangeAddressable>(sheet)->getRangeAddress().Sheet;
+    return ways_->place->getRangeAddress().Sheet;
+}
+
+Ref<css::uno::XInterface> Sheet::page() const {
+    return Ref<css::uno::XInterface>(ways_->pages->getByIndex(index()));
 }
 
 void Sheet::require_alive() const {
-    if (life_->gone) throw Error(ErrorNumber::host_refused);
+    if (!(page() == ways_->page)) throw Error(ErrorNumber::host_refused);
+}
+
+// Not by way of the sheet: where cells are deleted, the object that stands for it loses rows or columns.
+Ref<css::table::XCellRange> Sheet::cells(std::int32_t left, std::int32_t top, std::int32_t right,
+                                         std::int32_t bottom) const {
+    return ways_->cells->getCellRangeByPosition(left, top, right, bottom, index());
 }
 
 Book book_named(const HostPointer& host, std::u16string_view name) {

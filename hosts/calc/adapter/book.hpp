@@ -1,6 +1,9 @@
 #pragma once
 
+#include <com/sun/star/drawing/XDrawPages.hpp>
 #include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangesAccess.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <string>
 #include <vector>
@@ -38,11 +41,26 @@ struct Sheet {
 
     std::u16string name() const;
     std::int32_t index() const;  // from 0, at this moment
+    // What is drawn on it.
+    Ref<css::uno::XInterface> page() const;
     // Raises 1004 when the sheet or its workbook is gone.
     void require_alive() const;
 
+    // By columns and rows from 0, both ends within.
+    Ref<css::table::XCellRange> cells(std::int32_t left, std::int32_t top, std::int32_t right,
+                                      std::int32_t bottom) const;
+
   private:
-    std::shared_ptr<const SheetLife> life_;
+    // What is asked for again and again.
+    struct Ways {
+        Ref<css::sheet::XCellRangeAddressable> place;
+        Ref<css::sheet::XCellRangesAccess> cells;
+        Ref<css::drawing::XDrawPages> pages;
+        // The office goes on answering for a sheet that was deleted, out of the one that took its place; only the page
+        // that is found there is another one.
+        Ref<css::uno::XInterface> page;
+    };
+    std::shared_ptr<const Ways> ways_;
 };
 
 // The open workbook of that name; raises 9 when there is none.

@@ -16,11 +16,12 @@ namespace {
 using css::table::BorderLine2;
 using css::table::TableBorder2;
 
-// One side of a range: Excel's number and where the office keeps it.
+// One side of a range or one of the two lines across its cells: Excel's number and where the office keeps it.
 struct Side {
     std::int32_t index;
     BorderLine2 TableBorder2::*line;
     sal_Bool TableBorder2::*valid;
+    const char* attribute = nullptr;  // of the cells, for the lines across them
 };
 constexpr std::array sides{
     Side{7, &TableBorder2::LeftLine, &TableBorder2::IsLeftLineValid},
@@ -29,6 +30,8 @@ constexpr std::array sides{
     Side{10, &TableBorder2::RightLine, &TableBorder2::IsRightLineValid},
     Side{11, &TableBorder2::VerticalLine, &TableBorder2::IsVerticalLineValid},
     Side{12, &TableBorder2::HorizontalLine, &TableBorder2::IsHorizontalLineValid},
+    Side{5, nullptr, nullptr, "DiagonalTLBR2"},
+    Side{6, nullptr, nullptr, "DiagonalBLTR2"},
 };
 
 constexpr std::int32_t continuous = 1;
@@ -80,6 +83,9 @@ class BorderObject final : public CalcObject<BorderObject> {
     // What the sides agree in, Null where they differ.
     template <class Ask>
     Variant ask(Ask question) const {
+        if (side_ && side_->attribute) {
+            return answer(shared_attribute<BorderLine2>(areas_, side_->attribute), question);
+        }
         const auto border = get_property<TableBorder2>(areas_.whole(), "TableBorder2");
         std::optional<std::int32_t> result;
         for (const Side& side : chosen()) {
@@ -94,6 +100,12 @@ class BorderObject final : public CalcObject<BorderObject> {
     template <class Change>
     void change(Change change_line) {
         before_formatting(areas_);
+        if (side_ && side_->attribute) {
+            auto line = get_property<BorderLine2>(areas_.whole(), side_->attribute);
+            change_line(line);
+            set_property(areas_.whole(), side_->attribute, line);
+            return;
+        }
         auto border = get_property<TableBorder2>(areas_.whole(), "TableBorder2");
         TableBorder2 changed;
         for (const Side& side : chosen()) {

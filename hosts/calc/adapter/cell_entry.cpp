@@ -5,10 +5,12 @@
 #include <string_view>
 
 #include "automation/member_names.hpp"
+#include "hosts/calc/adapter/number_text.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
+#include "runtime/conversion.hpp"
 
 namespace qor::calc {
 namespace {
@@ -51,7 +53,10 @@ CellEntry number(double value, NumberKind kind = NumberKind::plain) {
 
 CellEntry text(const std::u16string& value, const Sheet& sheet) {
     if (value.empty()) return {};
-    if (value.starts_with(u'\'')) return {CellEntry::Way::data, value.substr(1)};
+    if (value.starts_with(u'\'')) {
+        const std::u16string plain = value.substr(1);
+        return {CellEntry::Way::data, plain, NumberKind::plain, may_be_more_than_text(plain)};
+    }
     if (value.starts_with(u'=') && value.size() > 1) {
         if (!is_closed(value)) throw Error(ErrorNumber::host_refused);
         const HostPointer& host = sheet.book.host;
@@ -95,6 +100,26 @@ CellEntry entry_of(const Variant& value, const Sheet& sheet, double days_to_null
             return entry_of(held.get(names::Value), sheet, days_to_null_date);
         } else {
             throw Error(ErrorNumber::type_mismatch);
+        }
+    });
+}
+
+CellEntry entry_into_text(const Variant& value, const Sheet& sheet, double days_to_null_date) {
+    return value.visit([&](const auto& held) -> CellEntry {
+        using Held = std::remove_cvref_t<decltype(held)>;
+        const auto as_text = [](std::u16string text) { return CellEntry{CellEntry::Way::data, std::move(text)}; };
+        if constexpr (std::is_same_v<Held, std::u16string>) {
+            return held.empty() ? CellEntry{} : as_text(held.substr(held.starts_with(u'\'') ? 1 : 0));
+        } else if constexpr (std::is_same_v<Held, bool>) {
+            return as_text(held ? u"TRUE" : u"FALSE");
+        } else if constexpr (std::is_arithmetic_v<Held>) {
+            return as_text(number_text(static_cast<double>(held)));
+        } else if constexpr (std::is_same_v<Held, Currency> || std::is_same_v<Held, Date>) {
+            return as_text(to_text(value));
+        } else if constexpr (std::is_same_v<Held, Object>) {
+            return entry_into_text(held.get(names::Value), sheet, days_to_null_date);
+        } else {
+            return entry_of(value, sheet, days_to_null_date);
         }
     });
 }

@@ -4,11 +4,13 @@
 #include <com/sun/star/sheet/FormulaResult.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
+#include <com/sun/star/table/CellContentType.hpp>
 
 #include "hosts/calc/adapter/cell_errors.hpp"
 #include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/number_kinds.hpp"
 #include "hosts/calc/adapter/number_text.hpp"
+#include "hosts/calc/formula/boolean_result.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
 
@@ -17,6 +19,43 @@ namespace {
 
 using Data = css::uno::Sequence<css::uno::Sequence<css::uno::Any>>;
 using Texts = css::uno::Sequence<css::uno::Sequence<rtl::OUString>>;
+
+// Constants that files bring as formulas without an argument: TRUE, FALSE and the error values.
+std::u16string_view constant_in(std::u16string_view formula) {
+    if (formula == u"=TRUE()") return u"TRUE";
+    if (formula == u"=FALSE()") return u"FALSE";
+    if (!formula.starts_with(u"=#")) return {};
+    const std::u16string_view text = formula.substr(1);
+    return error_constant_at(text, 0).size() == text.size() ? text : std::u16string_view{};
+}
+
+Variant typed(double number, NumberKind kind, double shift) {
+    constexpr double most_money = 922337203685477.5;
+    switch (kind) {
+        case NumberKind::boolean:
+            return number != 0;
+        case NumberKind::date:
+            return Date{number + shift};
+        case NumberKind::currency:
+            if (std::abs(number) < most_money) return Currency{std::llround(number * 10000)};
+            return number;
+        case NumberKind::text:
+        case NumberKind::plain:
+            break;
+    }
+    return number;
+}
+
+// Makes of a constant what is entered for it.
+void make_text(Variant& constant) {
+    if (const double* number = constant.get_if<double>()) constant = number_text(*number);
+    if (const bool* truth = constant.get_if<bool>()) constant = *truth ? u"TRUE" : u"FALSE";
+    if (constant.is_empty()) constant = u"";
+}
+
+bool is_zero_or_one(double number) {
+    return number == 0 || number == 1;
+}
 
 // What one range holds, as the office hands it out, and the table that is made of it.
 class Reading {
@@ -38,12 +77,7 @@ class Reading {
         take_data();
         const bool may_hold_truth = truths_;
         if (may_hold_truth) apply_kinds(Typing::plain);
-        for (std::size_t place = 0; place < table_.size(); ++place) {
-            Variant& entry = table_.at(place);
-            if (const double* number = entry.get_if<double>()) entry = number_text(*number);
-            if (const bool* truth = entry.get_if<bool>()) entry = *truth ? u"TRUE" : u"FALSE";
-            if (entry.is_empty()) entry = u"";
-        }
+        for (std::size_t place = 0; place < table_.size(); ++place) make_text(table_.at(place));
         const CellPlaces places = formula_places(cells_);
         if (places.empty()) return result();
         const Texts texts = formula_texts();
@@ -77,15 +111,6 @@ class Reading {
         return texts[static_cast<sal_Int32>(place / width)][static_cast<sal_Int32>(place % width)];
     }
 
-    // Constants that files bring as formulas without an argument: TRUE, FALSE and the error values.
-    static std::u16string_view constant_in(std::u16string_view formula) {
-        if (formula == u"=TRUE()") return u"TRUE";
-        if (formula == u"=FALSE()") return u"FALSE";
-        if (!formula.starts_with(u"=#")) return {};
-        const std::u16string_view text = formula.substr(1);
-        return error_constant_at(text, 0).size() == text.size() ? text : std::u16string_view{};
-    }
-
     void take_data() {
         const Data data = Ref<css::sheet::XCellRangeData>(cells_)->getDataArray();
         std::size_t place = 0;
@@ -97,7 +122,7 @@ class Reading {
                 if (value >>= number) {
                     entry = number;
                     numbers_ = true;
-                    truths_ = truths_ || number == 0 || number == 1;
+                    truths_ = truths_ || is_zero_or_one(number);
                 } else if (value >>= text) {
                     entry = from_uno(text);
                     empty_texts_ = empty_texts_ || text.isEmpty();
@@ -120,30 +145,16 @@ class Reading {
         }
     }
 
-    static Variant typed(double number, NumberKind kind, double shift) {
-        constexpr double most_money = 922337203685477.5;
-        switch (kind) {
-            case NumberKind::boolean:
-                return number != 0;
-            case NumberKind::date:
-                return Date{number + shift};
-            case NumberKind::currency:
-                if (std::abs(number) < most_money) return Currency{std::llround(number * 10000)};
-                return number;
-            case NumberKind::plain:
-                break;
-        }
-        return number;
-    }
-
-    // An xls file brings Booleans as formulas in cells of a plain format.
+    // Some files bring Booleans as plain numbers: constants as formulas, and results of formulas.
     void apply_constants() {
         const CellPlaces places = formula_places(cells_, css::sheet::FormulaResult::VALUE);
         if (places.empty()) return;
         const Texts texts = formula_texts();
         for_each(places, [&](std::size_t place) {
-            const std::u16string_view constant = constant_in(view_of(text_at(texts, place)));
-            if (!constant.empty()) table_.at(place) = constant == u"TRUE";
+            Variant& entry = table_.at(place);
+            const double* number = entry.get_if<double>();
+            if (number && is_zero_or_one(*number) && gives_boolean(view_of(text_at(texts, place))))
+                entry = *number == 1;
         });
     }
 
@@ -184,17 +195,44 @@ class Reading {
     bool errors_ = false;
 };
 
+// One cell that is no formula, in as few calls as there can be; none for all else.
+std::optional<Variant> read_constant(const Sheet& sheet, const Cells& cells, Typing typing) {
+    const Ref<css::table::XCell> cell(cells);
+    if (!cell) return {};
+    switch (cell->getType()) {
+        case css::table::CellContentType_EMPTY:
+            return Empty{};
+        case css::table::CellContentType_TEXT:
+            return from_uno(value_of<rtl::OUString>(Ref<css::sheet::XCellRangeData>(cells)->getDataArray()[0][0]));
+        case css::table::CellContentType_VALUE: {
+            const double number = cell->getValue();
+            if (typing == Typing::plain && !is_zero_or_one(number)) return number;
+            const NumberKind kind = kind_of_format(sheet, get_property<sal_Int32>(cell, "NumberFormat"));
+            if (typing == Typing::plain && kind != NumberKind::boolean) return number;
+            return typed(number, kind, kind == NumberKind::date ? days_to_null_date(sheet) : 0);
+        }
+        default:
+            return {};
+    }
+}
+
 }  // namespace
 
 Variant read_values(const Sheet& sheet, const Cells& cells, Typing typing) {
+    if (auto constant = read_constant(sheet, cells, typing)) return *std::move(constant);
     return Reading(sheet, cells).values(typing);
 }
 
 Variant read_formulas(const Sheet& sheet, const Cells& cells) {
+    if (auto constant = read_constant(sheet, cells, Typing::plain)) {
+        make_text(*constant);
+        return *std::move(constant);
+    }
     return Reading(sheet, cells).formulas();
 }
 
 FormulaCounts count_formulas(const Sheet& sheet, const Cells& cells) {
+    if (read_constant(sheet, cells, Typing::plain)) return {.cells = 1};
     return Reading(sheet, cells).counts();
 }
 

@@ -10,7 +10,7 @@ enum class Typing : std::uint8_t { typed, plain };
 
 // What the cells hold, as Excel gives it: one value for one cell, a table counted from 1 for more. The number of calls
 // into the office grows with the number of formats in the range, not with its cells.
-// Formulas whose results were taken over from an xls file as plain numbers give a number where Excel gives a Boolean.
+// The result of a formula that only tests or compares is a Boolean, whatever its format says.
 Variant read_values(const Sheet& sheet, const Cells& cells, Typing typing);
 // What was entered into the cells, formulas in Excel's notation. Always text; empty for a blank cell.
 Variant read_formulas(const Sheet& sheet, const Cells& cells);

@@ -1,10 +1,8 @@
 #include "hosts/calc/adapter/contents_before.hpp"
 
-#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
-#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 
 #include "hosts/calc/adapter/array_places.hpp"
 #include "hosts/calc/adapter/formula_entry.hpp"
@@ -16,9 +14,9 @@ ContentsBefore::ContentsBefore(const Sheet& sheet, const Cells& cells)
     : sheet_(sheet),
       cells_(cells),
       data_(Ref<css::sheet::XCellRangeData>(cells)->getDataArray()),
-      formulas_(formula_places(cells)) {
+      formulas_(formula_places(cells)),
+      formats_(cells) {
     if (!formulas_.empty()) keep_formulas();
-    keep_formats();
 }
 
 void ContentsBefore::keep_formulas() {
@@ -38,18 +36,9 @@ void ContentsBefore::keep_formulas() {
     }
 }
 
-void ContentsBefore::keep_formats() {
-    const Ref<css::container::XIndexAccess> looks(
-        Ref{Ref<css::sheet::XUniqueCellFormatRangesSupplier>(cells_)->getUniqueCellFormatRanges()});
-    for (sal_Int32 i = 0, count = looks->getCount(); i < count; ++i) {
-        const Ref<css::uno::XInterface> places(looks->getByIndex(i));
-        formats_.push_back({places, get_property<sal_Int32>(places, "NumberFormat")});
-    }
-}
-
 void ContentsBefore::put_back() const {
     Ref<css::sheet::XCellRangeData>(cells_)->setDataArray(data_);
-    for (const Format& format : formats_) set_property(format.cells, "NumberFormat", format.key);
+    formats_.put_back();
     if (!formulas_.empty()) put_back_formulas();
 }
 

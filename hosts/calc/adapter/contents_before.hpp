@@ -4,6 +4,7 @@
 #include <com/sun/star/uno/Sequence.hxx>
 
 #include "hosts/calc/adapter/cell_query.hpp"
+#include "hosts/calc/adapter/formats_before.hpp"
 
 namespace qor::calc {
 
@@ -16,17 +17,12 @@ class ContentsBefore {
     void put_back() const;
 
   private:
-    struct Format {
-        Ref<css::uno::XInterface> cells;
-        sal_Int32 key;
-    };
     struct ArrayFormula {
         Rectangle place;
         rtl::OUString text;
     };
 
     void keep_formulas();
-    void keep_formats();
     void put_back_formulas() const;
 
     Sheet sheet_;
@@ -35,7 +31,7 @@ class ContentsBefore {
     css::uno::Sequence<css::uno::Sequence<rtl::OUString>> texts_;  // empty when there is no formula
     CellPlaces formulas_;
     std::vector<ArrayFormula> arrays_;
-    std::vector<Format> formats_;
+    FormatsBefore formats_;
 };
 
 }  // namespace qor::calc

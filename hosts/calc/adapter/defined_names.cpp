@@ -126,6 +126,19 @@ DefinedName defined_name(const Book& book, std::u16string_view text) {
     return *std::move(found);
 }
 
+std::optional<DefinedName> name_of_cells(const RangeAreas& areas) {
+    if (areas.areas.size() != 1) return {};
+    const auto wanted = Ref<css::sheet::XCellRangeAddressable>(areas.areas.front())->getRangeAddress();
+    for (DefinedName& name : defined_names(areas.sheet.book)) {
+        const Ref<css::sheet::XCellRangeAddressable> cells(
+            Ref{Ref<css::sheet::XCellRangeReferrer>(name.range)->getReferredCells()});
+        const bool same = cells && cells->getRangeAddress() == wanted;
+        // Names whose cells are gone still answer some.
+        if (same && attempt([&] { static_cast<void>(name.cells()); }) == 0) return std::move(name);
+    }
+    return {};
+}
+
 DefinedName define_name(const Book& book, std::u16string_view text, const std::u16string& formula) {
     if (auto known = find_name(book, text)) {
         known->set_refers_to(formula);

@@ -29,6 +29,8 @@ struct DefinedName {
 std::vector<DefinedName> defined_names(const Book& book);
 // Raises 1004 when there is none of that name.
 DefinedName defined_name(const Book& book, std::u16string_view text);
+// The first by the alphabet that stands for exactly these cells; none when there is none.
+std::optional<DefinedName> name_of_cells(const RangeAreas& areas);
 // One that there is already gets the new meaning. Raises 1004 for a name or a formula that the office refuses.
 DefinedName define_name(const Book& book, std::u16string_view text, const std::u16string& formula);
 

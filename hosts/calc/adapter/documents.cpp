@@ -73,7 +73,6 @@ Book open_book(const HostPointer& host, const std::u16string& path, bool read_on
 
 void close_book(const Book& book) {
     Ref<css::util::XCloseable>(book.document)->close(true);
-    book.host->sheet_lives().end_all(book.document);
 }
 
 }  // namespace qor::calc

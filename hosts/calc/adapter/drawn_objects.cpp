@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/container/XNamed.hpp>
-#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/sheet/XSheetAnnotationsSupplier.hpp>
@@ -24,13 +23,8 @@ constexpr std::u16string_view chart_class = u"12dcae26-281f-416f-a234-c308612738
 constexpr const char* embedded_shape = "com.sun.star.drawing.OLE2Shape";
 constexpr const char* comment_shape = "com.sun.star.drawing.CaptionShape";
 
-Ref<css::container::XIndexAccess> page_of(const Sheet& sheet) {
-    const Ref pages{Ref<css::drawing::XDrawPagesSupplier>(sheet.book.document)->getDrawPages()};
-    return Ref<css::container::XIndexAccess>(pages->getByIndex(sheet.index()));
-}
-
 std::vector<Shape> shapes_on(const Sheet& sheet) {
-    const auto page = page_of(sheet);
+    const Ref<css::container::XIndexAccess> page(sheet.page());
     std::vector<Shape> result;
     for (sal_Int32 i = 0, count = page->getCount(); i < count; ++i) result.emplace_back(page->getByIndex(i));
     return result;
@@ -65,7 +59,7 @@ void DrawnObject::select() const {
 
 void DrawnObject::remove() const {
     before_formatting(range_at(sheet, {}));
-    Ref<css::drawing::XShapes>(page_of(sheet))->remove(shape.reference());
+    Ref<css::drawing::XShapes>(sheet.page())->remove(shape.reference());
 }
 
 void DrawnObject::require_alive() const {

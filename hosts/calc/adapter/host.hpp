@@ -2,19 +2,21 @@
 
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "hosts/calc/adapter/host_user.hpp"
-#include "hosts/calc/adapter/sheet_lives.hpp"
 #include "hosts/calc/adapter/status_bar.hpp"
 #include "hosts/calc/adapter/window_list.hpp"
 #include "hosts/calc/formula/translator.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
+
+using Document = Ref<css::sheet::XSpreadsheetDocument>;
 
 struct Window {
     Document document;
@@ -55,8 +57,6 @@ class Host : public std::enable_shared_from_this<Host> {
     bool screen_updating() const noexcept { return screen_updating_; }
     void set_screen_updating(bool on);
 
-    SheetLives& sheet_lives() noexcept { return sheet_lives_; }
-
     bool display_alerts = true;
     StatusBar status_bar;
 
@@ -77,7 +77,6 @@ class Host : public std::enable_shared_from_this<Host> {
     Ref<css::frame::XDesktop2> desktop_;
     WindowList window_list_;
     std::optional<FormulaTranslator> translator_;
-    SheetLives sheet_lives_;
     bool screen_updating_ = true;
     std::vector<Document> locked_;  // whose screens stand still
 };

@@ -1,7 +1,7 @@
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/defined_names.hpp"
 #include "hosts/calc/adapter/objects.hpp"
-#include "hosts/calc/formula/notation.hpp"
+#include "hosts/calc/adapter/range_object.hpp"
 
 namespace qor::calc {
 namespace {
@@ -91,9 +91,7 @@ class NamesObject final : public CalcObject<NamesObject> {
     }
 
     static std::u16string formula_of(const Variant& meaning) {
-        if (!meaning.is(Variant::Kind::object)) return to_text(meaning);
-        const std::u16string sheet = to_text(meaning.get(names::Worksheet).get(names::Name));
-        return u"=" + in_quotes(sheet) + u"!" + to_text(meaning.get(names::Address));
+        return meaning.is(Variant::Kind::object) ? u"=" + reference_to(areas_of(meaning)) : to_text(meaning);
     }
 
     Object parent() { return make_workbook(book_); }
@@ -103,6 +101,10 @@ class NamesObject final : public CalcObject<NamesObject> {
 };
 
 }  // namespace
+
+Object make_name(DefinedName name) {
+    return make_object<NameObject>(std::move(name));
+}
 
 Object make_names(Book book) {
     return make_object<NamesObject>(std::move(book));

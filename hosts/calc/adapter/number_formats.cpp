@@ -32,6 +32,8 @@ std::u16string_view code_of(NumberKind kind) {
             return u"$#,##0.00";
         case NumberKind::boolean:
             return u"BOOLEAN";
+        case NumberKind::text:
+            return u"@";
         case NumberKind::plain:
             break;
     }
@@ -109,16 +111,16 @@ std::u16string number_format_code(const Book& book, std::int32_t key) {
     return in_notation_of_excel(view_of(code));
 }
 
-std::vector<KindRun> number_kind_changes(const Sheet& sheet, const Cells& cells, const std::vector<NumberKind>& kinds) {
+std::vector<KindRun> number_kind_changes(const Rectangle& area, const std::vector<KindOfCells>& before,
+                                         const std::vector<NumberKind>& kinds) {
     std::vector<KindRun> changes;
-    for (const KindOfCells& before : number_kinds(sheet, cells)) {
-        if (before.kind != NumberKind::boolean) continue;
-        for (const css::table::CellRangeAddress& at : before.places) {
+    for (const KindOfCells& cells : before) {
+        if (cells.kind != NumberKind::boolean) continue;
+        for (const css::table::CellRangeAddress& at : cells.places) {
             changes.push_back({{at.StartColumn, at.StartRow, at.EndColumn, at.EndRow}, NumberKind::plain});
         }
     }
     if (std::ranges::all_of(kinds, [](NumberKind kind) { return kind == NumberKind::plain; })) return changes;
-    const Rectangle area = rectangle_of(cells);
     const auto width = static_cast<std::size_t>(area.width());
     for (std::size_t column = 0; column < width; ++column) {
         for (std::size_t row = 0, count = kinds.size() / width; row < count;) {

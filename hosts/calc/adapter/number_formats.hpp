@@ -17,8 +17,9 @@ struct KindRun {
 
 // What has to be done so that numbers written into the area, row by row of these kinds, show as what they are: a date
 // or money where the cell has no format yet, a Boolean always. A cell that shows Booleans goes back to no format when
-// it gets something else.
-std::vector<KindRun> number_kind_changes(const Sheet& sheet, const Cells& cells, const std::vector<NumberKind>& kinds);
+// it gets something else. `before` is what number_kinds says of the area.
+std::vector<KindRun> number_kind_changes(const Rectangle& area, const std::vector<KindOfCells>& before,
+                                         const std::vector<NumberKind>& kinds);
 void apply_number_kinds(const Sheet& sheet, const std::vector<KindRun>& changes);
 
 }  // namespace qor::calc

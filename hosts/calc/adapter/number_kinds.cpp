@@ -27,6 +27,7 @@ NumberKind kind_of_format(const Sheet& sheet, std::int32_t format_key) {
     if (bits & type::LOGICAL) return NumberKind::boolean;
     if (bits & type::DATETIME) return NumberKind::date;
     if (bits & type::CURRENCY) return NumberKind::currency;
+    if (bits & type::TEXT) return NumberKind::text;
     return NumberKind::plain;
 }
 

@@ -5,7 +5,8 @@
 namespace qor::calc {
 
 // What a number is, which only its format tells.
-enum class NumberKind : std::uint8_t { plain, date, currency, boolean };
+// Cells of text make a text of every number that is written into them.
+enum class NumberKind : std::uint8_t { plain, date, currency, boolean, text };
 
 struct KindOfCells {
     NumberKind kind;

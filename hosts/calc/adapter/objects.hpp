@@ -5,6 +5,7 @@
 #include "automation/member_names.hpp"
 #include "automation/variant.hpp"
 #include "hosts/calc/adapter/book.hpp"
+#include "hosts/calc/adapter/defined_names.hpp"
 #include "hosts/calc/adapter/range_areas.hpp"
 
 // How the objects of the model make one another.
@@ -37,6 +38,7 @@ Object make_command_bars(HostPointer host);
 Object make_worksheet_function(HostPointer host);
 Object make_recent_files(HostPointer host);
 Object make_companion_book(HostPointer host);
+Object make_name(DefinedName name);
 Object make_names(Book book);
 Object make_built_in_properties(Book book);
 Object make_custom_properties(Book book);

@@ -52,6 +52,16 @@ std::int32_t RangeObject::column() {
     return areas_.rectangle().left + 1;
 }
 
+Object RangeObject::name() {
+    auto name = name_of_cells(areas_);
+    if (!name) throw Error(ErrorNumber::host_refused);
+    return make_name(*std::move(name));
+}
+
+void RangeObject::set_name(const std::u16string& name) {
+    define_name(areas_.sheet.book, name, u"=" + reference_to(areas_));
+}
+
 Object RangeObject::worksheet() {
     return make_worksheet(areas_.sheet);
 }
@@ -110,6 +120,7 @@ const MemberTable<RangeObject>& RangeObject::members() {
         property<&R::item>(u"Item", {u"RowIndex", u"ColumnIndex"}),
         property<&R::locked, &R::set_locked>(u"Locked"),
         property<&R::merge_cells>(u"MergeCells"),
+        property<&R::name, &R::set_name>(u"Name"),
         property<&R::number_format, &R::set_number_format>(u"NumberFormat"),
         property<&R::worksheet>(u"Parent"),
         method<&R::paste_special>(u"PasteSpecial", {u"Paste"}),

@@ -33,6 +33,16 @@ std::u16string address_of(const RangeAreas& areas, const AddressStyle& style) {
     return text;
 }
 
+std::u16string reference_to(const RangeAreas& areas) {
+    const std::u16string sheet = in_quotes(areas.sheet.name()) + u"!";
+    std::u16string text;
+    for (std::size_t i = 0; i < areas.areas.size(); ++i) {
+        if (i > 0) text += u",";
+        text += sheet + address_text(areas.rectangle(i));
+    }
+    return text;
+}
+
 std::u16string place_of(const RangeAreas& areas) {
     return address_of(areas, {.external = true});
 }

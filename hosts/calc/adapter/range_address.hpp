@@ -16,6 +16,9 @@ struct AddressStyle {
 // All areas, separated by commas: $A$1:$B$2,$D$4 or R1C1:R2C2,R4C4.
 std::u16string address_of(const RangeAreas& areas, const AddressStyle& style);
 
+// As a formula refers to it, each area with its sheet: 'Sheet 1'!$A$1,'Sheet 1'!$C$1.
+std::u16string reference_to(const RangeAreas& areas);
+
 // Where a range lies, for messages: [Book.xlsx]Sheet1!$A$1. Workbook and sheet come once.
 std::u16string place_of(const RangeAreas& areas);
 

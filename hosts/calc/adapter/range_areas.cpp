@@ -3,7 +3,6 @@
 #include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeReferrer.hpp>
-#include <com/sun/star/sheet/XCellRangesAccess.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <optional>
 
@@ -118,10 +117,7 @@ Ref<css::uno::XInterface> RangeAreas::whole() const {
 
 Cells cells_at(const Sheet& sheet, const Rectangle& rectangle) {
     if (!rectangle.within_sheet()) throw Error(ErrorNumber::host_refused);
-    // Not by way of the sheet: where cells are deleted, the object that stands for it loses rows or columns.
-    const Ref<css::sheet::XCellRangesAccess> sheets(Ref{sheet.book.document->getSheets()});
-    return sheets->getCellRangeByPosition(rectangle.left, rectangle.top, rectangle.right, rectangle.bottom,
-                                          sheet.index());
+    return sheet.cells(rectangle.left, rectangle.top, rectangle.right, rectangle.bottom);
 }
 
 RangeAreas range_at(const Sheet& sheet, const Rectangle& rectangle, RangeUnit unit) {

@@ -36,6 +36,8 @@ class RangeObject final : public CalcObject<RangeObject> {
     Object part_areas(const Variant& index);
     Object entire_row();
     Object entire_column();
+    Object name();
+    void set_name(const std::u16string& name);
     Object worksheet();
     Object application();
     void select();
@@ -95,6 +97,9 @@ class RangeObject final : public CalcObject<RangeObject> {
 
     RangeAreas areas_;
 };
+
+// The cell in that row and that column, counted from 1 from the corner of `within`; a column may be named by letters.
+Rectangle cell_named(const Variant& row, const Variant& column, const Rectangle& within);
 
 // The areas of a range that is given as an argument; raises 1004 when it is none.
 const RangeAreas& areas_of(const Variant& value);

@@ -34,6 +34,12 @@ Rectangle around(const Rectangle& a, const Rectangle& b) {
 
 }  // namespace
 
+Rectangle cell_named(const Variant& row, const Variant& column, const Rectangle& within) {
+    const std::int32_t y = within.top + to_long(row) - 1;
+    const std::int32_t x = within.left + columns_named(column, {}).left;
+    return {x, y, x, y};
+}
+
 const RangeAreas& areas_of(const Variant& value) {
     const auto* range = dynamic_cast<const RangeObject*>(value.object().target());
     if (!range) throw Error(ErrorNumber::host_refused);
@@ -60,16 +66,11 @@ Object RangeObject::item(const Variant& first, const Variant& second) {
     const Sheet& sheet = areas_.sheet;
     if (areas_.unit == RangeUnit::rows) return make_range(range_at(sheet, rows_named(first, area), areas_.unit));
     if (areas_.unit == RangeUnit::columns) return make_range(range_at(sheet, columns_named(first, area), areas_.unit));
-    std::int32_t row = to_long(first) - 1;
-    std::int32_t column = 0;
-    if (second.is_missing()) {
-        column = row % area.width();
-        row /= area.width();
-    } else {
-        column = columns_named(second, {}).left;
-    }
-    const Rectangle cell{area.left + column, area.top + row, area.left + column, area.top + row};
-    return make_range(range_at(sheet, cell));
+    if (!second.is_missing()) return make_range(range_at(sheet, cell_named(first, second, area)));
+    const std::int32_t place = to_long(first) - 1;
+    const std::int32_t column = area.left + place % area.width();
+    const std::int32_t row = area.top + place / area.width();
+    return make_range(range_at(sheet, {column, row, column, row}));
 }
 
 Object RangeObject::cells(const Variant& row, const Variant& column) {

@@ -32,11 +32,9 @@ std::u16string unused_name(const std::set<std::u16string>& taken) {
 }
 
 void remove_from_book(const Sheet& sheet) {
-    const auto holders = sheet.book.host->sheet_lives().holders_of(sheet.book.document, sheet.index());
     const std::u16string name = sheet.name();
     Ref(sheet.book.document->getSheets())->removeByName(to_uno(name));
     remove_sheet_marks(sheet.book, name);
-    for (const auto& holder : holders) holder->gone = true;
 }
 
 }  // namespace

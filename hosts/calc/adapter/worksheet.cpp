@@ -105,7 +105,10 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
         if (first.is_missing()) return all;
         return second.is_missing() ? all.get(names::Item, first) : all.get(names::Item, first, second);
     }
-    Object cells(const Variant& row, const Variant& column) { return part(RangeUnit::cells, row, column); }
+    Object cells(const Variant& row, const Variant& column) {
+        if (row.is_missing() || column.is_missing()) return part(RangeUnit::cells, row, column);
+        return make_range(range_at(sheet_, cell_named(row, column, {})));
+    }
     Object rows(const Variant& index) { return part(RangeUnit::rows, index, Missing{}); }
     Object columns(const Variant& index) { return part(RangeUnit::columns, index, Missing{}); }
 
