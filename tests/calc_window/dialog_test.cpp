@@ -1,79 +1,24 @@
 #include <wx/toplevel.h>
 
 #include <cmath>
-#include <cstdlib>
 
-#include "core/CCom.hpp"
-#include "core/MMain.hpp"
-#include "hosts/calc/companion/office/loaded_screen.hpp"
-#include "platform/ini_settings_store.hpp"
-#include "tests/calc/fixture.hpp"
-#include "tests/calc/office_loop.hpp"
+#include "tests/calc_window/dialog_run.hpp"
 #include "tests/window/hand.hpp"
-#include "tests/wx/user.hpp"
 
 namespace qor::calc::tests {
 namespace {
 
-using namespace std::chrono_literals;
 using qor::tests::User;
 using qor::tests::window_of;
 
-constexpr const char* title = "QOR Plus: Worksheet Summary";
-
-LoadedScreen& windows() {
-    static LoadedScreen screen(office_context());  // once: the toolkit cannot be started again
-    return screen;
-}
-
-void close_dialogs() {
-    windows().close_dialogs();
-}
-
-struct Tool {
-    Calc calc;
-    IniSettingsStore settings{calc.folder() / "settings.ini"};
-    Object com;
-    Object book = calc.add_book();
-
-    Tool() {
-        set_environment({windows(), settings});
-        com = make_object<CCom>();
-        calc.application.get(names::ActiveSheet).get(names::Range, u"A1").put(names::Value, 12.0);
-        let_office_work(500ms);
+struct Tool : DialogRun {
+    void open(const std::function<void(User&)>& script) const {
+        DialogRun::open(u"UTWorSum", "QOR Plus: Worksheet Summary", script);
     }
-
-    // Opens the dialog as a macro does, while the user plays.
-    void open(const std::function<void(User&)>& script) {
-        qor::tests::play([&] { com.call(MemberName(u"UTWorSum"), calc.application); }, close_dialogs,
-                         [&](User& user) {
-                             if (!user.sees_dialog(title)) throw std::runtime_error("the dialog did not open");
-                             script(user);
-                         });
-    }
-
     std::int32_t workbooks() const {
         return *calc.application.get(names::Workbooks).get(names::Count).get_if<std::int32_t>();
     }
 };
-
-// The box of the row, from 0, at that level of the tree of workbooks.
-void check(User& user, int row, int level) {
-    wxPoint box;
-    user.on_screen([&] {
-        const auto& tree = window_of<wxWindow>("ctlTreeView");
-        const double height = std::ceil(tree.GetCharHeight() * 1.25);
-        const double scale = height / 255;
-        box = {static_cast<int>((285 * level + 82) * scale), static_cast<int>((row + 0.5) * height)};
-    });
-    user.click_in("ctlTreeView", box);
-}
-
-// As take_picture does, but while a dialog has the main thread.
-void keep_picture(const std::string& name) {
-    const char* folder = std::getenv("QORPLUS_PICTURES");
-    if (folder) qor::tests::hand::take_picture(0, 0, 1280, 800, std::string(folder) + '/' + name + ".png");
-}
 
 }  // namespace
 
@@ -115,7 +60,7 @@ TEST_CASE_FIXTURE(
 TEST_CASE_FIXTURE(Tool, "a message over Calc's window is answered") {
     MessageAnswer answer{};
     qor::tests::play(
-        [&] { answer = windows().message_box({.title = u"Save", .text = u"Now?", .buttons = MessageButtons::yes_no}); },
+        [&] { answer = message_box({.title = u"Save", .text = u"Now?", .buttons = MessageButtons::yes_no}); },
         close_dialogs,
         [](User& user) {
             REQUIRE(user.sees_dialog("Save"));
@@ -132,11 +77,11 @@ TEST_CASE_FIXTURE(Tool, "Escape closes the dialog, and nothing is added") {
 
 TEST_CASE_FIXTURE(Tool, "dialogs are told to close, and say whether there were any") {
     const std::int32_t before = workbooks();
-    CHECK_FALSE(windows().close_dialogs());
+    CHECK_FALSE(close_dialogs());
     bool open_before = false;
-    open([&](User& user) { user.on_screen([&] { open_before = windows().close_dialogs(); }); });
+    open([&](User& user) { user.on_screen([&] { open_before = close_dialogs(); }); });
     CHECK(open_before);
-    CHECK_FALSE(windows().close_dialogs());
+    CHECK_FALSE(close_dialogs());
     CHECK(workbooks() == before);
 }
 

@@ -32,6 +32,14 @@ void key(const std::string& name) {
     xdotool("key " + name);
 }
 
+void hold_key(const std::string& name) {
+    xdotool("keydown " + name);
+}
+
+void let_key_go(const std::string& name) {
+    xdotool("keyup " + name);
+}
+
 void type(const std::string& text) {
     xdotool("type --delay 5 '" + text + "'");
 }

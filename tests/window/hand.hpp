@@ -12,6 +12,8 @@ void move(int x, int y);
 void press(int button = 1);
 void release(int button = 1);
 void key(const std::string& name);
+void hold_key(const std::string& name);
+void let_key_go(const std::string& name);
 void type(const std::string& text);
 
 // A picture of that part of the display, as a PNG file.
