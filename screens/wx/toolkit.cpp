@@ -29,7 +29,7 @@ bool start() {
 }  // namespace
 
 void start_toolkit() {
-    static const bool started = start();
+    static const bool started = wxTheApp || start();
     if (!started) throw std::runtime_error("no display for windows");
 }
 
