@@ -99,9 +99,9 @@ std::optional<std::u16string> WxScreen::pick_file(Form* owner, FileDialog& wante
     wxFileDialog dialog(parent_for(owner), to_wx(wanted.title), to_wx(wanted.folder), to_wx(wanted.file_name),
                         wildcard(wanted.kinds),
                         open ? wxFD_OPEN | wxFD_FILE_MUST_EXIST : wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
-    dialog.SetFilterIndex(static_cast<int>(wanted.chosen_kind));
+    if (!wanted.kinds.empty()) dialog.SetFilterIndex(static_cast<int>(wanted.chosen_kind));
     if (run(dialog) != wxID_OK) return {};
-    wanted.chosen_kind = static_cast<std::size_t>(dialog.GetFilterIndex());
+    if (!wanted.kinds.empty()) wanted.chosen_kind = static_cast<std::size_t>(dialog.GetFilterIndex());
     return from_wx(dialog.GetPath());
 }
 
