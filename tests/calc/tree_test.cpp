@@ -9,6 +9,7 @@
 #include "screens/script/action.hpp"
 #include "tests/calc/sheet_names.hpp"
 #include "tests/calc/tool_run.hpp"
+#include "tests/calc/whole_document.hpp"
 #include "tools/sheets/frmNav.hpp"
 
 namespace qor::calc::tests {
@@ -167,6 +168,36 @@ TEST_CASE_FIXTURE(Tree, "checked workbooks are saved and closed, as the option s
     CHECK(open(folder() / "other.ods").get(names::Worksheets, 1).get(names::Range, u"B1").get(names::Value) == 1.0);
     act({choose("ROOT", "Close All")});
     CHECK(books() == 0);
+}
+
+TEST_CASE_FIXTURE(Tree, "all that a run of the Navigator does is one step of undo, in each workbook") {
+    const auto act_once = [&] {
+        act({drag("other.ods*Draft", "other.ods"),
+             drag("other.ods*Notes", "other.ods", true),
+             choose("other.ods*Draft", "Rename Worksheet"),
+             {{"set", "ctlTreeView"}, {"to", "Final"}},
+             {{"delete", "ctlTreeView"}, {"node", "other.ods*Notes"}}},
+            {"OK"});
+    };
+    clear_undo();
+    const std::string before = whole_document();
+    act_once();
+    CHECK(sheet_names(other) == "Notes (2)/Final/");
+    CHECK(undo_titles() == std::vector<std::string>{"Navigator"});
+    const std::string after = whole_document();
+    undo();
+    CHECK(sheet_names(other) == "Notes/Draft/");
+    CHECK((whole_document() == before));
+    redo();
+    CHECK((whole_document() == after));
+}
+
+TEST_CASE_FIXTURE(Tree, "Calc cannot undo a sheet that came from another workbook, nor what was before it") {
+    other.get(names::Worksheets, 1).get(names::Range, u"B1").put(names::Value, 1.0);
+    CHECK_FALSE(undo_titles().empty());
+    act({drag("plan.ods*Loan", "other.ods")});
+    CHECK(sheet_names(other) == "Loan/Notes/Draft/");
+    CHECK(undo_titles().empty());
 }
 
 TEST_CASE_FIXTURE(Tree, "a workbook closed and sheets deleted or renamed under the tree are passed over") {

@@ -65,6 +65,7 @@ Sheet import(const Sheet& sheet, const SheetPlace& place) {
     const std::u16string name = sheet.name();
     const std::u16string wanted = has_sheet(place.book, name) ? copy_name(place.book, name) : name;
     const Ref<css::sheet::XSpreadsheets2> sheets(Ref{place.book.document->getSheets()});
+    UndoStep::note_unrecorded_change(place.book.document);
     const sal_Int32 index = sheets->importSheet(sheet.book.document.reference(), to_uno(name), place.index);
     Sheet copy = sheet_at(place.book, index);
     if (copy.name() != wanted) set_name(copy, wanted);

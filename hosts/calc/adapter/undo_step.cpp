@@ -27,6 +27,7 @@ UndoStep::~UndoStep() {
     for (const Entered& entered : entered_) {
         // A step that stays open would swallow all that comes, so one failure is not believed.
         if (!leave(entered.manager)) leave(entered.manager);
+        if (entered.is_wrong) attempt([&] { guarded([&] { entered.manager->clear(); }); });
     }
 }
 
@@ -38,6 +39,11 @@ void UndoStep::note_change(const Document& document) {
         Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager()};
     manager->enterUndoContext(to_uno(open_step->title_));
     entered.push_back({document, manager});
+}
+
+void UndoStep::note_unrecorded_change(const Document& document) {
+    note_change(document);
+    if (open_step) std::ranges::find(open_step->entered_, document, &Entered::document)->is_wrong = true;
 }
 
 }  // namespace qor::calc

@@ -21,6 +21,9 @@ class UndoStep {
 
     // Called before the first change of a document, and harmless before further ones.
     static void note_change(const Document& document);
+    // Called for a change that the office does not record and that makes what it has recorded wrong: at the end of the
+    // step the document's undo list is emptied.
+    static void note_unrecorded_change(const Document& document);
 
   private:
     RunningCommand command_;
@@ -29,6 +32,7 @@ class UndoStep {
     struct Entered {
         Document document;
         Ref<css::document::XUndoManager> manager;
+        bool is_wrong = false;
     };
     std::vector<Entered> entered_;
 };
