@@ -12,6 +12,9 @@ void register_recalculation(const Context& context);
 // The Worksheet Summary of a sheet of 200,000 used cells, by the tool and by the walk from cell to cell.
 void register_worksheet_summary(const Context& context);
 
+// The worksheets of a workbook brought into order, by the tool and by the moves that it takes.
+void register_sort_worksheets(const Context& context);
+
 // Cells read, written and coloured through the adapter, beside the office's own interfaces.
 void register_cells(const Context& context);
 

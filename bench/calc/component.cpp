@@ -10,6 +10,7 @@ using Context = com::sun::star::uno::Reference<com::sun::star::uno::XComponentCo
 int run(const Context& context, std::span<const char* const> arguments, std::ostream& report) {
     qor::bench::register_recalculation(context);
     qor::bench::register_worksheet_summary(context);
+    qor::bench::register_sort_worksheets(context);
     qor::bench::register_cells(context);
     return qor::bench::run_with_ratios(arguments, report) ? 0 : 1;
 }
