@@ -25,9 +25,10 @@ prepare_packages() {
 }
 
 build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev libfmt-dev
-    libreoffice-calc libreoffice-dev librsvg2-bin optipng libwxgtk3.2-dev libgtk-3-dev)
+    libreoffice-calc libreoffice-dev librsvg2-bin optipng libwxgtk3.2-dev libgtk-3-dev
+    doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev)  # the last four: configuring looks at tests and bench too
 run_packages=(libreoffice-gtk3 libreoffice-base-drivers poppler-utils fonts-liberation)
-test_packages=(doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev clang-format clang-tidy procps
+test_packages=(clang-format clang-tidy procps
     xvfb openbox xdotool hunspell-en-us)
 
 # Checkouts in other folders share what ccache keeps.

@@ -31,7 +31,7 @@ std::vector<Sheet> Book::sheets() const {
     const sal_Int32 count = all->getCount();
     result.reserve(static_cast<std::size_t>(count));
     for (sal_Int32 i = 0; i < count; ++i) {
-        result.push_back({*this, Ref<css::sheet::XSpreadsheet>(all->getByIndex(i))});
+        result.emplace_back(*this, Ref<css::sheet::XSpreadsheet>(all->getByIndex(i)));
     }
     return result;
 }

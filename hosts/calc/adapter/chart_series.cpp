@@ -25,7 +25,7 @@ std::u16string role_of(const Sequence& sequence) {
 
 Labelled data_in_role(const Ref<css::chart2::XDataSeries>& series, std::u16string_view role) {
     for (const auto& one : Ref<data::XDataSource>(series)->getDataSequences()) {
-        const Labelled labelled(one);
+        Labelled labelled(one);
         if (role_of(labelled->getValues()) == role) return labelled;
     }
     return {};

@@ -97,7 +97,9 @@ std::vector<Condition> conditions_of(const Sheet& sheet, const Rectangle& cell) 
         }
         const auto id = get_property<sal_Int32>(format, "ID");
         const Ref<css::container::XIndexAccess> entries(format);
-        for (sal_Int32 i = 0, count = entries->getCount(); i < count; ++i) {
+        const sal_Int32 count = entries->getCount();
+        found.reserve(found.size() + static_cast<std::size_t>(count));
+        for (sal_Int32 i = 0; i < count; ++i) {
             found.push_back({id, {Entry(entries->getByIndex(i)), corner}});
         }
     }

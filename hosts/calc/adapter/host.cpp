@@ -92,16 +92,16 @@ Window Host::active_window() {
     // The office itself may know none, when it runs without a screen or when another program is in front.
     if (const Ref<css::frame::XFrame> front{desktop_->getCurrentFrame()}) {
         const Controller controller{front->getController()};
-        if (const Window window = window_of(controller); window.document && can_be_seen(controller)) return window;
+        if (Window window = window_of(controller); window.document && can_be_seen(controller)) return window;
     }
     for (const Controller& controller : window_list_.by_activation()) {
-        if (const Window window = window_of(controller); window.document && can_be_seen(controller)) return window;
+        if (Window window = window_of(controller); window.document && can_be_seen(controller)) return window;
     }
     const std::vector<Document> open = documents();
-    for (const Document& document : std::views::reverse(open)) {
-        const auto all = controllers_of(document);
+    for (auto document = open.rbegin(); document != open.rend(); ++document) {
+        const auto all = controllers_of(*document);
         const auto seen = std::ranges::find_if(all, can_be_seen);
-        if (seen != all.end()) return {document, *seen};
+        if (seen != all.end()) return {*document, *seen};
     }
     return {};
 }
