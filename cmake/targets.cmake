@@ -25,11 +25,21 @@ function(qor_library name)
   target_link_libraries(${name} PUBLIC qor_options ${ARG_DEPENDS})
 endfunction()
 
+# Tests by property, where rapidcheck is: Debian has none that a cross compiler could link.
+add_library(qor_rapidcheck INTERFACE)
+if(NOT WIN32)
+  target_compile_definitions(qor_rapidcheck INTERFACE QOR_RAPIDCHECK)
+  target_link_libraries(qor_rapidcheck INTERFACE rapidcheck)
+endif()
+
 # qor_test(name [DEPENDS libraries...]): a doctest program, run by ./test
 function(qor_test name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
   add_executable(test_${name} ${sources} ${PROJECT_SOURCE_DIR}/tests/main.cpp)
   target_link_libraries(test_${name} PRIVATE qor_options ${ARG_DEPENDS})
+  if(WIN32)
+    target_link_libraries(test_${name} PRIVATE qor_doctest)
+  endif()
   add_test(NAME ${name} COMMAND test_${name})
 endfunction()

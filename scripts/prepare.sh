@@ -30,6 +30,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-
 run_packages=(libreoffice-gtk3 libreoffice-base-drivers poppler-utils fonts-liberation)
 test_packages=(clang-format clang-tidy procps
     xvfb openbox xdotool hunspell-en-us)
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine64 libwine-dev)
 
 # Checkouts in other folders share what ccache keeps.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1

@@ -1,5 +1,6 @@
 #include "automation/member_name.hpp"
 
+#include <deque>
 #include <mutex>
 #include <string>
 #include <unordered_map>
@@ -16,20 +17,41 @@ std::u16string folded(std::u16string_view text) {
     return result;
 }
 
-struct Interned {
-    std::size_t id;
-    std::u16string spelling;
+struct Names {
+    std::mutex mutex;
+    std::unordered_map<std::u16string, std::size_t> ids_by_folded_text;
+    std::deque<std::u16string> spellings;  // by number; none ever moves
 };
+
+Names& all_names() {
+    static Names names;
+    return names;
+}
 
 }  // namespace
 
 MemberName::MemberName(std::u16string_view text) {
-    static std::mutex mutex;
-    static std::unordered_map<std::u16string, Interned> names;
+    auto& [mutex, ids, spellings] = all_names();
     const std::scoped_lock lock(mutex);
-    const auto& [key, interned] = *names.try_emplace(folded(text), Interned{names.size(), std::u16string(text)}).first;
-    text_ = interned.spelling;
-    id_ = interned.id;
+    const auto [place, is_new] = ids.try_emplace(folded(text), spellings.size());
+    if (is_new) spellings.emplace_back(text);
+    id_ = place->second;
+    text_ = spellings[id_];
+}
+
+std::optional<MemberName> MemberName::known(std::u16string_view text) {
+    auto& [mutex, ids, spellings] = all_names();
+    const std::scoped_lock lock(mutex);
+    const auto found = ids.find(folded(text));
+    if (found == ids.end()) return std::nullopt;
+    return MemberName(spellings[found->second], found->second);
+}
+
+std::optional<MemberName> MemberName::numbered(std::size_t id) {
+    auto& [mutex, ids, spellings] = all_names();
+    const std::scoped_lock lock(mutex);
+    if (id >= spellings.size()) return std::nullopt;
+    return MemberName(spellings[id], id);
 }
 
 }  // namespace qor

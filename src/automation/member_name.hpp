@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace qor {
@@ -10,12 +11,18 @@ namespace qor {
 class MemberName {
   public:
     explicit MemberName(std::u16string_view text);
+    // The name if it has been spelled anywhere before, so that texts from outside leave nothing behind.
+    static std::optional<MemberName> known(std::u16string_view text);
+    // The name that carries that number.
+    static std::optional<MemberName> numbered(std::size_t id);
 
     std::u16string_view text() const noexcept { return text_; }
     std::size_t id() const noexcept { return id_; }
     bool operator==(const MemberName& other) const noexcept { return id_ == other.id_; }
 
   private:
+    MemberName(std::u16string_view text, std::size_t id) noexcept : text_(text), id_(id) {}
+
     std::u16string_view text_;  // in the spelling that came first; lives as long as the process
     std::size_t id_;
 };

@@ -33,6 +33,7 @@ struct Member {
     std::function<Variant(Target&, Access, std::span<Variant>)> invoke;
     OnError on_error = OnError::leave;
     Variant result_at_failure = {};  // the answer where a failure is passed over
+    std::uint32_t by_reference = 0;  // a bit for each parameter that goes back to the caller, the first one lowest
 };
 
 // An object's members by name. Raises 438 for a name that is not there or not in that access, 450 for too many

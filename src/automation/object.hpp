@@ -34,6 +34,8 @@ class Dispatch {
 
     // Raises 438 for a member that is not there, and whatever the member itself raises.
     virtual Variant invoke(const MemberName& name, Access access, Arguments arguments) = 0;
+    // What the object stands for where a value is asked for, such as a cell's. Raises 438 if it stands for none.
+    virtual Variant default_value();
     // The members of a collection, in the host's order, as they stand at the call. Raises 438 if it is none.
     virtual std::vector<Variant> items();
     // Whether both stand for the same thing in the host, though they may be two objects.

@@ -2,6 +2,10 @@
 
 namespace qor {
 
+Variant Dispatch::default_value() {
+    throw Error(ErrorNumber::no_such_member);
+}
+
 std::vector<Variant> Dispatch::items() {
     throw Error(ErrorNumber::no_such_member);
 }

@@ -161,14 +161,21 @@ void add_tools(std::vector<Row>& rows) {
     }
 }
 
+std::uint32_t by_reference(const Function& function) {
+    std::uint32_t bits = 0;
+    for (std::size_t place = 0; place < function.parameters.size(); ++place)
+        if (function.parameters[place].is_by_reference) bits |= 1U << place;
+    return bits;
+}
+
 void add_functions(std::vector<Row>& rows, std::span<const Function> functions) {
     for (const Function& function : functions) {
-        rows.push_back({.name = function.member,
-                        .accesses = accesses::callable,
-                        .parameters = function.parameter_names(),
-                        .invoke = [&function](CCom&, Access, std::span<Variant> arguments) {
-                            return function.invoke(arguments);
-                        }});
+        rows.push_back(
+            {.name = function.member,
+             .accesses = accesses::callable,
+             .parameters = function.parameter_names(),
+             .invoke = [&function](CCom&, Access, std::span<Variant> arguments) { return function.invoke(arguments); },
+             .by_reference = by_reference(function)});
     }
 }
 

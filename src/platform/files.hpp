@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace qor {
@@ -33,6 +34,9 @@ struct FileEntry {
 // The path as the system takes it. Both kinds of separators are understood, and a drive's letter where the system has
 // no letters; one that stands for no drive gives a path at which nothing is.
 std::filesystem::path native_path(std::u16string_view path);
+
+// The system's path as the hosts have it.
+std::u16string path_text(const std::filesystem::path& path);
 
 // The file or folder of that path, or the first one of a last name with * and ?. Nothing for a path that ends in a
 // separator, but for the root.

@@ -1,5 +1,4 @@
-#include <glib.h>
-
+#include "platform/letter.hpp"
 #include "platform/text.hpp"
 
 namespace qor {
@@ -8,12 +7,12 @@ namespace {
 
 char32_t upper(char32_t code_point) {
     if (code_point < 0x80) return code_point >= U'a' && code_point <= U'z' ? code_point - 0x20 : code_point;
-    return g_unichar_toupper(code_point);
+    return upper_letter(code_point);
 }
 
 char32_t lower(char32_t code_point) {
     if (code_point < 0x80) return code_point >= U'A' && code_point <= U'Z' ? code_point + 0x20 : code_point;
-    return g_unichar_tolower(code_point);
+    return lower_letter(code_point);
 }
 
 template <typename Mapping>

@@ -2,11 +2,10 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "platform/file_descriptor.hpp"
 
 namespace qor {
 
@@ -37,10 +36,12 @@ class LockedFile {
     bool replace(std::string_view bytes, Previous previous = Previous::discarded);
 
   private:
-    LockedFile(std::filesystem::path file, FileDescriptor lock);
+    class Lock;  // the system's, held while it lives
+
+    LockedFile(std::filesystem::path file, std::shared_ptr<const Lock> lock);
 
     std::filesystem::path file_;
-    FileDescriptor lock_;
+    std::shared_ptr<const Lock> lock_;
 };
 
 }  // namespace qor

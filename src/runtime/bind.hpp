@@ -46,6 +46,19 @@ struct Signature<R (T::*)(A...)> {
     using Result = R;
     using Values = std::tuple<std::remove_cvref_t<A>...>;
     static constexpr std::size_t count = sizeof...(A);
+    template <class Parameter>
+    static constexpr bool goes_back =
+        std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>;
+    static constexpr std::uint32_t by_reference = [] {
+        std::uint32_t bits = 0;
+        std::uint32_t bit = 1;
+        [[maybe_unused]] const auto one = [&](bool is_output) {
+            if (is_output) bits |= bit;
+            bit <<= 1U;
+        };
+        (one(goes_back<A>), ...);
+        return bits;
+    }();
 
     template <auto function, std::size_t... place>
     static Variant call(T& target, std::span<Variant> arguments, std::index_sequence<place...>) {
@@ -53,8 +66,7 @@ struct Signature<R (T::*)(A...)> {
         const auto write_back = [&] {
             [[maybe_unused]] const auto one = [&]<std::size_t i>() {
                 using Parameter = std::tuple_element_t<i, std::tuple<A...>>;
-                if constexpr (std::is_lvalue_reference_v<Parameter> &&
-                              !std::is_const_v<std::remove_reference_t<Parameter>>) {
+                if constexpr (goes_back<Parameter>) {
                     if (i >= arguments.size()) return;
                     if constexpr (!OptionalOf<std::tuple_element_t<i, Values>>::value) {
                         arguments[i] = Variant(std::get<i>(values));
@@ -116,7 +128,8 @@ Member<detail::TargetOf<function>> method(std::u16string_view name, std::vector<
                 return detail::call_member<function>(target, arguments);
             },
             on_error,
-            detail::starting_value<detail::ResultOf<function>>()};
+            detail::starting_value<detail::ResultOf<function>>(),
+            detail::Signature<decltype(function)>::by_reference};
 }
 
 // A property that can only be read; one with parameters is read as a call too.

@@ -22,11 +22,16 @@ struct Refusal {
     [[noreturn]] static void refuse(Null) { raise(ErrorNumber::invalid_use_of_null); }
     [[noreturn]] static void refuse(Missing) { raise(ErrorNumber::argument_not_optional); }
     [[noreturn]] static void refuse(ErrorValue) { raise(ErrorNumber::type_mismatch); }
-    [[noreturn]] static void refuse(const Object& object) {
-        raise(object ? ErrorNumber::no_such_member : ErrorNumber::object_not_set);
-    }
     [[noreturn]] static void refuse(const std::shared_ptr<const Array>&) { raise(ErrorNumber::type_mismatch); }
 };
+
+// The value that an object stands for, such as that of a cell. One that stands for another object stands for none.
+Variant value_of(const Object& object) {
+    if (!object) throw Error(ErrorNumber::object_not_set);
+    Variant value = object.target()->default_value();
+    if (value.is(Variant::Kind::object)) throw Error(ErrorNumber::no_such_member);
+    return value;
+}
 
 template <class T>
 concept Convertible = !requires(const T& value) {
@@ -44,6 +49,7 @@ struct ToDouble : Refusal {
     }
     double operator()(Date value) const { return value.serial; }
     double operator()(const std::u16string& value) const { return parse_number(value); }
+    double operator()(const Object& value) const { return to_double(value_of(value)); }
     template <class Other>
     requires(!Convertible<Other>) double operator()(const Other& value) const { refuse(value); }
 };
@@ -58,6 +64,7 @@ struct ToText : Refusal {
     std::u16string operator()(Currency value) const { return number_text(value); }
     std::u16string operator()(Date value) const { return general_date(value); }
     std::u16string operator()(const std::u16string& value) const { return value; }
+    std::u16string operator()(const Object& value) const { return to_text(value_of(value)); }
     std::u16string operator()(ErrorValue value) const { return u"Error " + whole_number(value.code); }
     template <class Other>
     requires(!Convertible<Other>) std::u16string operator()(const Other& value) const { refuse(value); }
@@ -90,6 +97,7 @@ Currency round_to_currency(double value) {
 }  // namespace
 
 bool to_boolean(const Variant& value) {
+    if (const auto* object = value.get_if<Object>()) return to_boolean(value_of(*object));
     if (const auto* held = value.get_if<bool>()) return *held;
     if (const auto* text = value.get_if<std::u16string>()) {
         if (equal_ignoring_case(*text, u"True")) return true;
@@ -119,12 +127,14 @@ double to_double(const Variant& value) {
 }
 
 Currency to_currency(const Variant& value) {
+    if (const auto* object = value.get_if<Object>()) return to_currency(value_of(*object));
     if (const auto* held = value.get_if<Currency>()) return *held;
     if (const auto* text = value.get_if<std::u16string>()) return parse_currency(*text);
     return round_to_currency(to_double(value));
 }
 
 Date to_date(const Variant& value) {
+    if (const auto* object = value.get_if<Object>()) return to_date(value_of(*object));
     if (const auto* text = value.get_if<std::u16string>()) {
         if (const std::optional<Date> shown = parse_date(*text)) return *shown;
     }

@@ -5,7 +5,7 @@
 
 #include "automation/error.hpp"
 #include "core/MMain.hpp"
-#include "platform/text.hpp"
+#include "platform/files.hpp"
 #include "runtime/trim.hpp"
 #include "services/CFile.hpp"
 
@@ -38,7 +38,7 @@ std::size_t extension_place(std::u16string_view path) {
 
 CDiag::CDiag() {
     std::error_code unknown;
-    InitDir = from_utf8(std::filesystem::current_path(unknown).string());
+    InitDir = path_text(std::filesystem::current_path(unknown));
 }
 
 std::u16string CDiag::Filter() const {

@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "platform/files.hpp"
 #include "platform/locked_file.hpp"
-#include "platform/text.hpp"
 #include "stores/data_file.hpp"
 
 namespace qor {
@@ -42,7 +42,7 @@ bool create_data_files(const fs::path& folder) {
     bool made = fs::is_directory(folder, failure);
     for (const char* name : stores) {
         const fs::path path = folder / name;
-        if (!fs::exists(path, failure)) made = save_empty_data_file(from_utf8(path.native())) && made;
+        if (!fs::exists(path, failure)) made = save_empty_data_file(path_text(path)) && made;
     }
     const fs::path formats = folder / "DateFormat.dat";
     if (!fs::exists(formats, failure)) made = create_text_file(formats, date_formats) && made;

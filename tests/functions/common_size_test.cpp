@@ -1,5 +1,4 @@
 #include <doctest/doctest.h>
-#include <rapidcheck.h>
 
 #include <cmath>
 #include <limits>
@@ -7,6 +6,10 @@
 #include "platform/text.hpp"
 #include "runtime/rounding.hpp"
 #include "tests/functions/call.hpp"
+
+#ifdef QOR_RAPIDCHECK
+#include <rapidcheck.h>
+#endif
 
 using namespace qor;
 using test::call;
@@ -73,6 +76,7 @@ TEST_CASE("a description stands as it is registered") {
     CHECK((find_function(u"FBR")->description == u"Returns the Fringe Benefit Rate."));
 }
 
+#ifdef QOR_RAPIDCHECK
 TEST_CASE("a quotient is the double quotient, rounded") {
     CHECK(rc::check([] {
         const auto dividend = *rc::gen::arbitrary<double>();
@@ -83,3 +87,4 @@ TEST_CASE("a quotient is the double quotient, rounded") {
         RC_ASSERT(call(u"CLE", {dividend, divisor, places}) == expected);
     }));
 }
+#endif

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <doctest/doctest.h>
-#include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <set>
 #include <string>
 #include <string_view>
@@ -17,9 +17,9 @@ namespace qor::test {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "qor-test-XXXXXX";
-        REQUIRE(::mkdtemp(name.data()) != nullptr);
-        path = name;
+        std::random_device number;
+        do path = std::filesystem::temp_directory_path() / ("qor-test-" + std::to_string(number()));
+        while (!std::filesystem::create_directory(path));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
@@ -30,7 +30,8 @@ class TemporaryFolder {
 
     std::set<std::string> names() const {
         std::set<std::string> result;
-        for (const auto& entry : std::filesystem::directory_iterator(path)) result.insert(entry.path().filename());
+        for (const auto& entry : std::filesystem::directory_iterator(path))
+            result.insert(entry.path().filename().string());
         return result;
     }
 

@@ -1,7 +1,6 @@
 #include "runtime/format.hpp"
 
 #include <doctest/doctest.h>
-#include <rapidcheck.h>
 
 #include <cmath>
 #include <limits>
@@ -12,6 +11,10 @@
 #include "runtime/locale.hpp"
 #include "tests/runtime/country.hpp"
 #include "tests/runtime/raised.hpp"
+
+#ifdef QOR_RAPIDCHECK
+#include <rapidcheck.h>
+#endif
 
 using namespace qor;
 using test::Country;
@@ -285,6 +288,7 @@ TEST_CASE("the country's names and signs") {
     });
 }
 
+#ifdef QOR_RAPIDCHECK
 TEST_CASE("what is formatted reads as the value again") {
     const Country country(english_locale());
     CHECK(rc::check("numbers", [](std::int32_t hundredths) {
@@ -330,3 +334,4 @@ TEST_CASE("no pattern makes it leave the rules") {
         RC_ASSERT(number == 0 || number == 6);
     }));
 }
+#endif

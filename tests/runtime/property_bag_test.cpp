@@ -1,9 +1,12 @@
 #include "runtime/property_bag.hpp"
 
 #include <doctest/doctest.h>
-#include <rapidcheck.h>
 
 #include <string>
+
+#ifdef QOR_RAPIDCHECK
+#include <rapidcheck.h>
+#endif
 
 using namespace qor;
 using namespace std::string_literals;
@@ -83,6 +86,7 @@ TEST_CASE("the whole range of numbers survives") {
     }
 }
 
+#ifdef QOR_RAPIDCHECK
 TEST_CASE("any bytes are read without harm, and what is read can be written again") {
     rc::check([](const std::string& bytes) {
         if (const auto bag = PropertyBag::from_image(bytes)) {
@@ -108,3 +112,4 @@ TEST_CASE("any bytes are read without harm, and what is read can be written agai
         if (read) RC_ASSERT(read->size() <= bytes.size());
     });
 }
+#endif

@@ -13,7 +13,7 @@
 #include <string>
 
 #include "hosts/calc/office/process/office_error.hpp"
-#include "platform/file_descriptor.hpp"
+#include "platform/posix/file_descriptor.hpp"
 
 namespace qor::calc {
 namespace {

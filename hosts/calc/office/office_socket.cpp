@@ -10,7 +10,7 @@
 #include <cstring>
 #include <memory>
 
-#include "platform/file_descriptor.hpp"
+#include "platform/posix/file_descriptor.hpp"
 
 namespace qor::calc {
 

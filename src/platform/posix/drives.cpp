@@ -9,8 +9,8 @@
 #include <array>
 #include <filesystem>
 
-#include "platform/file_descriptor.hpp"
 #include "platform/posix/block_device.hpp"
+#include "platform/posix/file_descriptor.hpp"
 #include "platform/posix/mount_table.hpp"
 #include "platform/text.hpp"
 

@@ -69,6 +69,10 @@ std::filesystem::path native_path(std::u16string_view path) {
     return mount->folder / text;
 }
 
+std::u16string path_text(const std::filesystem::path& path) {
+    return from_utf8(path.native());
+}
+
 std::optional<FileEntry> find_file(std::u16string_view path) {
     std::filesystem::path native = native_path(path);
     if (!native.has_filename() && native != native.root_path()) return std::nullopt;

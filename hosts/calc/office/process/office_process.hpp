@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_descriptor.hpp"
+#include "platform/posix/file_descriptor.hpp"
 
 namespace qor::calc {
 

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "child_process.hpp"
 #include "platform/ini_settings_store.hpp"
-#include "temporary_folder.hpp"
+#include "tests/platform/posix/child_process.hpp"
+#include "tests/platform/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

@@ -1,4 +1,4 @@
-#include "platform/ini_text.hpp"
+#include "platform/posix/ini_text.hpp"
 
 #include <doctest/doctest.h>
 

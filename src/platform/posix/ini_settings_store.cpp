@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/ini_text.hpp"
-#include "platform/key_file.hpp"
 #include "platform/locked_file.hpp"
+#include "platform/posix/ini_text.hpp"
+#include "platform/posix/key_file.hpp"
 #include "platform/text.hpp"
 
 namespace qor {

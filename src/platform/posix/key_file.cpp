@@ -1,4 +1,4 @@
-#include "platform/key_file.hpp"
+#include "platform/posix/key_file.hpp"
 
 #include <algorithm>
 #include <map>

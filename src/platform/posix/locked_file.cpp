@@ -9,6 +9,8 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/posix/file_descriptor.hpp"
+
 namespace qor {
 
 namespace {
@@ -75,7 +77,15 @@ FileContent read_whole_file(const std::filesystem::path& file, std::size_t limit
     return {FileState::read, std::move(bytes)};
 }
 
-LockedFile::LockedFile(std::filesystem::path file, FileDescriptor lock)
+class LockedFile::Lock {
+  public:
+    explicit Lock(FileDescriptor file) : file_(std::move(file)) {}
+
+  private:
+    FileDescriptor file_;  // closing it gives the lock back
+};
+
+LockedFile::LockedFile(std::filesystem::path file, std::shared_ptr<const Lock> lock)
     : file_(std::move(file)), lock_(std::move(lock)) {}
 
 std::optional<LockedFile> LockedFile::acquire(const std::filesystem::path& file) {
@@ -84,7 +94,7 @@ std::optional<LockedFile> LockedFile::acquire(const std::filesystem::path& file)
     if (!lock) return std::nullopt;
     while (::flock(lock.number(), LOCK_EX) != 0)
         if (errno != EINTR) return std::nullopt;
-    return LockedFile(std::move(target), std::move(lock));
+    return LockedFile(std::move(target), std::make_shared<const Lock>(std::move(lock)));
 }
 
 bool LockedFile::replace(std::string_view bytes, Previous previous) {

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "temporary_folder.hpp"
+#include "tests/platform/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

@@ -8,11 +8,11 @@
 #include <string>
 #include <thread>
 
-#include "child_process.hpp"
-#include "platform/file_descriptor.hpp"
 #include "platform/ini_settings_store.hpp"
+#include "platform/posix/file_descriptor.hpp"
 #include "platform/text.hpp"
-#include "temporary_folder.hpp"
+#include "tests/platform/posix/child_process.hpp"
+#include "tests/platform/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;
