@@ -130,6 +130,20 @@ TEST_CASE_FIXTURE(Batches, "the active workbook closed between dialog and OK is 
     gExcel = {};
 }
 
+TEST_CASE_FIXTURE(Batches, "a workbook that refuses is passed over, the one behind it is not") {
+    const Object other = book("other.ods", {u"b", u"a"});
+    protect_structure(plan);
+    run(u"UTSorWor", {"ROOT"});
+    CHECK(sheet_names(plan) == "Loan/inputs/Ratios/");
+    CHECK(sheet_names(other) == "a/b/");
+    CHECK(run(u"UTAddWor", {"ROOT"}, {set("ctlSpinner1", "1")})["progress"] == json{2, 2});
+    CHECK(sheet_names(plan) == "Loan/inputs/Ratios/");
+    CHECK(sheet_names(other) == "Sheet3/a/b/");
+    run(u"UTDelEmpWor", {"ROOT"});
+    CHECK(sheet_names(plan) == "Loan/inputs/Ratios/");
+    CHECK(sheet_names(other) == "b/");
+}
+
 TEST_CASE_FIXTURE(Batches, "spelling is checked on the checked sheets") {
     sheet(plan, u"Loan").get(names::Range, u"A1").put(names::Value, u"wrod");
     const json shown = run(u"UTSpeCheAll", {"ROOT"}, {{{"check", "chkIgnoreHF"}}});

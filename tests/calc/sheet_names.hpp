@@ -1,5 +1,12 @@
 #pragma once
 
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
+#include <stdexcept>
+
+#include "hosts/calc/adapter/host.hpp"
+#include "hosts/calc/uno/text.hpp"
+#include "runtime/conversion.hpp"
 #include "tests/calc/fixture.hpp"
 
 namespace qor::calc::tests {
@@ -21,6 +28,19 @@ inline void give_sheets(const Object& book, const std::vector<std::u16string>& w
         const Object before = sheets.get(names::Item, static_cast<std::int32_t>(place));
         sheets.call(names::Add, named(names::After, before)).put(names::Name, wanted[place]);
     }
+}
+
+// The office's own object of a workbook that was saved.
+inline Document document_of(const Object& book) {
+    for (const Document& document : Host(office_context()).documents()) {
+        const auto address = Ref<css::frame::XModel>(document)->getURL();
+        if (address.endsWith(to_uno(u"/" + to_text(book.get(names::Name))))) return document;
+    }
+    throw std::runtime_error("the workbook is not open");
+}
+
+inline void protect_structure(const Object& book) {
+    Ref<css::util::XProtectable>(document_of(book))->protect({});
 }
 
 }  // namespace qor::calc::tests

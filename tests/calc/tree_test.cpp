@@ -1,11 +1,6 @@
 #include <com/sun/star/frame/DispatchHelper.hpp>
 #include <com/sun/star/frame/XDispatchProvider.hpp>
-#include <com/sun/star/frame/XModel.hpp>
-#include <com/sun/star/util/XProtectable.hpp>
 
-#include "hosts/calc/adapter/host.hpp"
-#include "hosts/calc/uno/text.hpp"
-#include "runtime/conversion.hpp"
 #include "screens/script/action.hpp"
 #include "tests/calc/sheet_names.hpp"
 #include "tests/calc/tool_run.hpp"
@@ -37,14 +32,6 @@ struct Tree : ToolRun {
     static json choose(const char* node, const char* command) {
         return {{"menu", "ctlTreeView"}, {"node", node}, {"choose", command}};
     }
-    static Document document_of(const Object& book) {
-        for (const Document& document : Host(office_context()).documents()) {
-            const auto address = Ref<css::frame::XModel>(document)->getURL();
-            if (address.endsWith(to_uno(u"/" + to_text(book.get(names::Name))))) return document;
-        }
-        throw std::runtime_error("the workbook is not open");
-    }
-    static void protect_structure(const Object& book) { Ref<css::util::XProtectable>(document_of(book))->protect({}); }
     static void open_second_window(const Object& book) {
         const Ref frame{Ref{Ref<css::frame::XModel>(document_of(book))->getCurrentController()} -> getFrame()};
         Ref(css::frame::DispatchHelper::create(office_context()))

@@ -64,6 +64,7 @@ struct TreeHost {
                 return true;
             });
             fake.answers(names::GetSaveAsFilename, writes(u"ask", false));
+            fake.answers(names::Help, writes(u"help"));
         });
         load();
     }
