@@ -64,4 +64,27 @@ TEST_CASE("a step ends when its command fails, and when a workbook is closed in 
     CHECK(sheet.get(names::Range, u"A2").get(names::Value) == Variant(Empty{}));
 }
 
+TEST_CASE("a comment that is shown or hidden is no step of undo") {
+    const Calc calc;
+    const Object cell = calc.add_sheet().get(names::Range, u"B2").object();
+    cell.call(MemberName(u"AddComment"), u"Ask the board");
+    const auto list = undo_lists().front();
+    list->clear();
+    cell.put(names::Value, 1.0);
+    const Object comment = cell.get(names::Comment).object();
+    comment.put(names::Visible, true);
+    comment.put(names::Visible, false);
+    {
+        const UndoStep step(u"Selection");
+        comment.put(names::Visible, true);
+    }
+    CHECK(comment.get(names::Visible) == true);
+    CHECK(list->getAllUndoActionTitles().getLength() == 1);
+    cell.put(names::Value, 2.0);
+    CHECK(list->getAllUndoActionTitles().getLength() == 2);
+    list->undo();
+    CHECK(cell.get(names::Value) == 1.0);
+    CHECK(comment.get(names::Visible) == true);
+}
+
 }  // namespace qor::calc::tests

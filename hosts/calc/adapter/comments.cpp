@@ -5,6 +5,7 @@
 
 #include "hosts/calc/adapter/calc_object.hpp"
 #include "hosts/calc/adapter/objects.hpp"
+#include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
 
 namespace qor::calc {
@@ -55,6 +56,7 @@ class CommentObject final : public CalcObject<CommentObject> {
     bool visible() { return annotation()->getIsVisible(); }
     void set_visible(bool visible) {
         before_change(sheet_.book);
+        const NoUndo unseen_by_undo(sheet_.book.document);
         annotation()->setIsVisible(visible);
     }
     void remove() {

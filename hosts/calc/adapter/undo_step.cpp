@@ -8,6 +8,10 @@
 namespace qor::calc {
 namespace {
 
+Ref<css::document::XUndoManager> undo_manager(const Document& document) {
+    return Ref{Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager()};
+}
+
 UndoStep* open_step = nullptr;  // the office's main thread is the only one that changes documents
 
 // Where it fails, the workbook was closed in between and its undo list went with it.
@@ -35,8 +39,7 @@ void UndoStep::note_change(const Document& document) {
     if (!open_step) return;
     auto& entered = open_step->entered_;
     if (std::ranges::find(entered, document, &Entered::document) != entered.end()) return;
-    const Ref<css::document::XUndoManager> manager{
-        Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager()};
+    const auto manager = undo_manager(document);
     manager->enterUndoContext(to_uno(open_step->title_));
     entered.push_back({document, manager});
 }
@@ -44,6 +47,14 @@ void UndoStep::note_change(const Document& document) {
 void UndoStep::note_unrecorded_change(const Document& document) {
     note_change(document);
     if (open_step) std::ranges::find(open_step->entered_, document, &Entered::document)->is_wrong = true;
+}
+
+NoUndo::NoUndo(const Document& document) : manager_(undo_manager(document)) {
+    manager_->lock();
+}
+
+NoUndo::~NoUndo() {
+    attempt([&] { guarded([&] { manager_->unlock(); }); });
 }
 
 }  // namespace qor::calc

@@ -37,4 +37,16 @@ class UndoStep {
     std::vector<Entered> entered_;
 };
 
+// While it lives, nothing that is done to the document comes into its undo list: for what a user only sees.
+class NoUndo {
+  public:
+    explicit NoUndo(const Document& document);
+    NoUndo(const NoUndo&) = delete;
+    NoUndo& operator=(const NoUndo&) = delete;
+    ~NoUndo();
+
+  private:
+    Ref<css::document::XUndoManager> manager_;
+};
+
 }  // namespace qor::calc

@@ -73,6 +73,7 @@ void OfficeCompanion::stop() {
     review_timer_.reset();
     events_.reset();
     run([&] { companion_->stop(); });
+    gExcel = Object();  // a command that ended early has left it, and it must not outlive the office
     bars_->set_macro_runner({});
 }
 
