@@ -14,7 +14,7 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
     explicit RatioReporter(std::ostream& report) : report_(report) {}
 
     bool ReportContext(const Context&) override {
-        fmt::print(report_, "{:<50}{:>14}{:>10}\n", "", "median", "ratio");
+        fmt::print(report_, "{:<50}{:>14}{:>10}{:>14}\n", "", "median", "ratio", "processor");
         return true;
     }
 
@@ -24,7 +24,7 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
             if (run.error_occurred) {
                 fmt::print(report_, "{:<50} failed: {}\n", run.run_name.function_name, run.error_message);
                 failed_ = true;
-            } else if (run.aggregate_name == "median") {
+            } else if (run.aggregate_name == "median" || run.repetitions == 1) {
                 print(run);
             }
         }
@@ -42,8 +42,9 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
             group_ = group;
             baseline_ = seconds;
         }
-        fmt::print(report_, "{:<50}{:>11.2f} {:<2}{:>10.4f}", name, time, benchmark::GetTimeUnitString(run.time_unit),
-                   seconds / baseline_);
+        const char* unit = benchmark::GetTimeUnitString(run.time_unit);
+        fmt::print(report_, "{:<50}{:>11.2f} {:<2}{:>10.4f}{:>11.2f} {:<2}", name, time, unit, seconds / baseline_,
+                   run.GetAdjustedCPUTime(), unit);
         for (const auto& [counter, value] : run.counters) fmt::print(report_, "  {} {:.0f}", counter, value.value);
         if (!label_.empty()) fmt::print(report_, "  {}", label_);
         report_ << std::endl;
