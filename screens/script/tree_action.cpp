@@ -88,6 +88,7 @@ void choose_command(const Step& step, TreeView& tree) {
     const auto chosen = std::ranges::find(commands, from_utf8(caption), &PopupMenu::Command::caption);
     if (chosen == commands.end()) {
         std::vector<std::string> captions;
+        captions.reserve(commands.size());
         for (const auto& command : commands) captions.push_back(to_utf8(command.caption));
         step.refuse(fmt::format("the menu has no \"{}\"; it has {}", caption, join(captions)));
     }

@@ -1,4 +1,4 @@
-#include <ranges>
+#include <algorithm>
 #include <vector>
 
 #include "automation/member_names.hpp"
@@ -39,12 +39,9 @@ void ctlTree::SorWor(bool Ascending) {
     for (const TreeNode* node : checked_nodes(2)) {
         attempt([&] {
             const Object worksheets = workbook_of(*node).get(names::Worksheets);
-            const std::vector<Variant> sheet_names = sorted_names(worksheets);
-            if (Ascending) {
-                for (const Variant& name : std::views::reverse(sheet_names)) bring_to_front(worksheets, name);
-            } else {
-                for (const Variant& name : sheet_names) bring_to_front(worksheets, name);
-            }
+            std::vector<Variant> sheet_names = sorted_names(worksheets);
+            if (Ascending) std::ranges::reverse(sheet_names);
+            for (const Variant& name : sheet_names) bring_to_front(worksheets, name);
         });
         Progress(++done, total);
     }
