@@ -43,11 +43,13 @@ std::u16string text(std::u16string_view name, std::vector<Variant> arguments) {
     return *result.get_if<std::u16string>();
 }
 
+#ifdef QOR_RAPIDCHECK
 Date serial_of(std::u16string_view name, std::vector<Variant> arguments) {
     const Variant result = result_of(name, std::move(arguments));
     RC_ASSERT(result.is(Variant::Kind::date));
     return *result.get_if<Date>();
 }
+#endif
 
 }  // namespace
 

@@ -51,12 +51,14 @@ bool identical(double left, double right) {
     return std::bit_cast<std::uint64_t>(left) == std::bit_cast<std::uint64_t>(right);
 }
 
+#ifdef QOR_RAPIDCHECK
 rc::Gen<double> any_finite_double() {
     return rc::gen::map(rc::gen::arbitrary<std::uint64_t>(), [](std::uint64_t bits) {
         const auto value = std::bit_cast<double>(bits);
         return std::isfinite(value) ? value : 0.0;
     });
 }
+#endif
 
 }  // namespace
 
