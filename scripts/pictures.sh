@@ -4,7 +4,16 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
 prepare_packages "${build_packages[@]}" "${run_packages[@]}" "${test_packages[@]}" imagemagick
-build release form_pictures test_calc_window
+build release form_pictures test_calc_window test_calc_user
 mkdir -p docs/pictures
 build/release/tests/wx/pictures/form_pictures docs/pictures
-QORPLUS_PICTURES=$PWD/docs/pictures build/release/tests/calc_window/test_calc_window
+
+# The tests take more pictures than are kept.
+seen=$(mktemp -d)
+trap 'rm -rf "$seen"' EXIT
+for suite in calc_window calc_user; do
+    QORPLUS_PICTURES=$seen "build/release/tests/$suite/test_$suite"
+done
+for picture in calc-menu calc-toolbars calc-options calc-bookmarks calc-picking navigator-menu worksheet-summary-dialog; do
+    cp "$seen/$picture.png" docs/pictures/
+done

@@ -46,7 +46,7 @@ void choose_second(const UsersCalc& calc) {
     const auto place = calc.toolbar_with(u"Set Scroll Area")->middle_of_list();
     REQUIRE(place);
     calc.click(*place);
-    calc.take_picture("bookmarks");
+    calc.take_picture("calc-bookmarks");
     constexpr int second_line = 37;  // pixels below the list's middle
     calc.click({place->X, place->Y + second_line});
 }

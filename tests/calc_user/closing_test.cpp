@@ -29,7 +29,6 @@ TEST_CASE("closing Calc's window while a dialog is open closes the dialog; then 
     calc.close_window();
     CHECK(calc.loses("QOR Plus: Options"));
     REQUIRE(calc.shows("Save Document"));
-    calc.take_picture("closing");
     CHECK(home.setting("chkT1AutoAdjWin") == "none");
     calc.key("Escape");
     REQUIRE(calc.loses("Save Document"));

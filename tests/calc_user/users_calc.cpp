@@ -71,9 +71,13 @@ UsersHome::UsersHome() {
 )";
 }
 
+fs::path UsersHome::settings_file() const {
+    return path() / own_folder / "settings.ini";
+}
+
 std::string UsersHome::settings() const {
     std::ostringstream text;
-    text << std::ifstream(path() / own_folder / "settings.ini").rdbuf();
+    text << std::ifstream(settings_file()).rdbuf();
     return text.str();
 }
 

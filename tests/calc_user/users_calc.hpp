@@ -25,6 +25,7 @@ class UsersHome {
     // The workbook that Calc is started with, a copy of the example.
     std::filesystem::path model() const { return path() / "model.xlsx"; }
     std::string pipe() const { return folder_.path().filename(); }
+    std::filesystem::path settings_file() const;
     // The text of the settings; empty before there are any.
     std::string settings() const;
     std::string setting(const std::string& key) const;  // its text; "none" where there is none

@@ -94,7 +94,7 @@ TEST_CASE_FIXTURE(Picking, "a range is picked by the pointer while the dialog is
     pick([](User&) {
         drag_over_cells();
         if (const char* folder = std::getenv("QORPLUS_PICTURES"))
-            hand::take_picture(0, 0, 1280, 800, std::string(folder) + "/picking.png");
+            hand::take_picture(0, 0, 1280, 800, std::string(folder) + "/calc-picking.png");
         hand::move(827, 400);  // the one button of the office's box
         hand::press();
         hand::release();
