@@ -10,6 +10,9 @@
 
 #include "core/frmAbout.hpp"
 #include "core/frmOptions.hpp"
+#include "reports/frmCellInfo.hpp"
+#include "reports/frmDtRev.hpp"
+#include "reports/frmWBSum.hpp"
 #include "reports/frmWKSum.hpp"
 #include "screens/wx/text.hpp"
 #include "screens/wx/wx_screen.hpp"
@@ -82,22 +85,6 @@ class Album {
     std::optional<WxScreen> screen_;
 };
 
-void take_worksheet_summary(Album& album) {
-    frmWKSum form;
-    form.AppTitle = u"QOR Plus: Worksheet Summary";
-    album.take(form, [&](User& user) {
-        user.on_screen([&] {
-            TreeView& tree = form.ctlTreeView.treQOR;
-            tree.find(u"model.xls")->set_expanded(true);
-            Pointer box = *tree.picture_point(*tree.find(u"model.xls*Loan"));
-            tree.move_pointer(box);
-            box.button = MouseButton::left;
-            tree.press_pointer(box);
-            tree.release_pointer(box);
-        });
-    });
-}
-
 // A dialog with the tree, one worksheet checked.
 template <class TreeDialog>
 void take_tree(Album& album, std::u16string_view title) {
@@ -160,7 +147,10 @@ int main(int argc, char** argv) {
     try {
         use_virtual_display();
         Album album{argv[1]};
-        take_worksheet_summary(album);
+        take_tree<frmCellInfo>(album, u"Cell Information");
+        take_tree<frmDtRev>(album, u"Date Review");
+        take_tree<frmWBSum>(album, u"Workbook Summary");
+        take_tree<frmWKSum>(album, u"Worksheet Summary");
         take_tree<frmAddWk>(album, u"Add Worksheets");
         take_tree<frmDelWk>(album, u"Delete Empty Worksheets");
         take_tree<frmSrtWk>(album, u"Sort Worksheets");
