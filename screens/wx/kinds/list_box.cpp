@@ -32,14 +32,37 @@ class ListBoxBinding final : public Binding {
         bind_events(place);
     }
     wxWindow& window() const override { return *window_; }
+    // What is shown already is left alone: the toolkit forgets from where the user extends a selection.
     void show_model() override {
-        rows_->Reset(static_cast<unsigned>(list_.count()));
+        if (std::vector<std::u16string> texts = all_texts(); texts != shown_) {
+            shown_ = std::move(texts);
+            rows_->Reset(static_cast<unsigned>(list_.count()));
+        }
+        if (selection() == list_.selection()) return;
         wxDataViewItemArray selected;
         for (const std::size_t row : list_.selection()) selected.Add(item(row));
         window_->SetSelections(selected);
     }
 
   private:
+    std::vector<std::u16string> all_texts() const {
+        std::vector<std::u16string> texts;
+        for (std::size_t row = 0; row < list_.count(); ++row) {
+            for (std::size_t column = 0; column < list_.columns().size(); ++column) {
+                texts.push_back(list_.text(row, column));
+            }
+        }
+        return texts;
+    }
+
+    std::set<std::size_t> selection() const {
+        wxDataViewItemArray selected;
+        window_->GetSelections(selected);
+        std::set<std::size_t> rows;
+        for (const wxDataViewItem& one : selected) rows.insert(rows_->GetRow(one));
+        return rows;
+    }
+
     static long style_of(const ListBox& list) {
         const bool several = list.selecting() == ListBox::Selecting::several_rows;
         return (several ? wxDV_MULTIPLE : wxDV_SINGLE) | wxDV_ROW_LINES;
@@ -72,10 +95,7 @@ class ListBoxBinding final : public Binding {
     }
 
     void take_selection(const wxDataViewItem& clicked) {
-        wxDataViewItemArray selection;
-        window_->GetSelections(selection);
-        std::set<std::size_t> rows;
-        for (const wxDataViewItem& selected : selection) rows.insert(rows_->GetRow(selected));
+        const std::set<std::size_t> rows = selection();
         for (std::size_t row = 0; row < list_.count(); ++row) {
             if (list_.is_selected(row) != rows.contains(row)) list_.set_selected(row, rows.contains(row));
         }
@@ -87,6 +107,7 @@ class ListBoxBinding final : public Binding {
     ListBox& list_;
     wxDataViewCtrl* window_;
     wxObjectDataPtr<Rows> rows_;
+    std::vector<std::u16string> shown_;
 };
 
 }  // namespace
