@@ -82,6 +82,7 @@ int WxScreen::run(wxDialog& dialog) {
 
 void WxScreen::show_again(Form& form) {
     if (wx::FormWindow* window = window_of(form)) window->show_again();
+    if (closing_) close_soon();  // it was away when the dialogs were told to close
 }
 
 void WxScreen::show_modeless(Form& form, Form* owner) {

@@ -89,6 +89,20 @@ TEST_CASE_FIXTURE(EveryKind, "a form may hide and show itself again inside one e
     CHECK_FALSE(form.loaded());
 }
 
+TEST_CASE_FIXTURE(EveryKind, "a form that was away when the dialogs were told to close, closes when it is back") {
+    form.on_button = [&](int index) {
+        if (index != 4) return;
+        form.hide();
+        screen.close_all();
+        form.show_modal();
+    };
+    show([&](User& user) {
+        user.click("cmdButton(4)");
+        CHECK(user.sees([&] { return !screen.dialog_open(); }));
+    });
+    CHECK_FALSE(form.loaded());
+}
+
 TEST_CASE_FIXTURE(EveryKind, "what a handler raises comes out of show_modal, and the screen is usable again") {
     form.on_button = [](int) { throw Error(ErrorNumber::invalid_call); };
     CHECK_THROWS_AS(show([&](User& user) { user.click("cmdButton(4)"); }), Error);
