@@ -5,6 +5,7 @@
 
 #include "hosts/calc/adapter/blank_cells.hpp"
 #include "hosts/calc/adapter/formats_before.hpp"
+#include "hosts/calc/adapter/transition_entry.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
@@ -47,8 +48,11 @@ AreaWriter::AreaWriter(const Sheet& sheet, const Cells& cells, const Variant& va
     const std::vector<bool> of_text = cells_of_text(before, area_);
     const bool all_text = !of_text.empty() && std::ranges::find(of_text, false) == of_text.end();
     const auto is_text = [&](std::size_t place) { return !of_text.empty() && of_text[place]; };
+    TransitionEntry transition(sheet);
     if (!value.array()) {
-        const CellEntry entry = all_text ? entry_into_text(value, sheet, shift) : entry_of(value, sheet, shift);
+        const auto replaced = all_text ? std::nullopt : transition.replaced(value);
+        const CellEntry entry = all_text ? entry_into_text(value, sheet, shift)
+                                         : entry_of(replaced ? Variant(*replaced) : value, sheet, shift);
         entries_.assign(entry.way == Way::formula ? 1 : size, entry);
         // A formula for cells of which only some are of text goes into all of them.
         for (std::size_t place = 0; place < of_text.size() && entry.way != Way::formula && !all_text; ++place) {
@@ -58,9 +62,16 @@ AreaWriter::AreaWriter(const Sheet& sheet, const Cells& cells, const Variant& va
         entries_.reserve(size);
         for (std::int32_t row = 0; row < area_.height(); ++row) {
             for (std::int32_t column = 0; column < area_.width(); ++column) {
-                const Variant& one = value_for(value, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
-                entries_.push_back(is_text(entries_.size()) ? entry_into_text(one, sheet, shift)
-                                                            : entry_of(one, sheet, shift));
+                const Variant& given =
+                    value_for(value, static_cast<std::size_t>(row), static_cast<std::size_t>(column));
+                if (is_text(entries_.size())) {
+                    entries_.push_back(entry_into_text(given, sheet, shift));
+                    continue;
+                }
+                const auto replaced = transition.replaced(given);
+                const Variant formula = replaced ? Variant(*replaced) : Variant();
+                const Variant& one = replaced ? formula : given;
+                entries_.push_back(entry_of(one, sheet, shift));
                 if (entries_.back().way != Way::formula) continue;
                 const auto* text = one.get_if<std::u16string>();
                 patterns_.push_back(formula_pattern(text ? *text : std::get<std::u16string>(entries_.back().content),
@@ -74,8 +85,9 @@ AreaWriter::AreaWriter(const Sheet& sheet, const Cells& cells, const Variant& va
 }
 
 bool AreaWriter::is_one_call() const {
-    return kind_changes_.empty() &&
-           std::ranges::all_of(entries_, [](const CellEntry& entry) { return entry.way == Way::data; });
+    return kind_changes_.empty() && std::ranges::all_of(entries_, [](const CellEntry& entry) {
+               return entry.way == Way::data && !entry.seems_more;
+           });
 }
 
 void AreaWriter::write() {

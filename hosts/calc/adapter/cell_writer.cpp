@@ -5,6 +5,7 @@
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 
 #include "hosts/calc/adapter/area_writer.hpp"
+#include "hosts/calc/adapter/transition_entry.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
 #include "hosts/calc/uno/guarded.hpp"
@@ -30,7 +31,8 @@ void write_values(const RangeAreas& areas, const Variant& value) {
 }
 
 void write_array_formula(const RangeAreas& areas, const std::u16string& formula) {
-    const CellEntry entry = entry_of(formula, areas.sheet, 0);
+    const auto replaced = TransitionEntry(areas.sheet).replaced(formula);
+    const CellEntry entry = entry_of(replaced.value_or(formula), areas.sheet, 0);
     if (entry.way != CellEntry::Way::formula) return write_values(areas, formula);
     const UndoStep step(u"Input");
     before_writing(areas);
