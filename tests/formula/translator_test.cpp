@@ -119,4 +119,9 @@ TEST_CASE("a formula of Excel in the notation of Calc") {
     CHECK(calc(u"=open.xlsx!total") == "='file:///tables/open.xlsx'#total");
     CHECK(calc(u"=Sheet2!rate*rate") == "=$Sheet2.rate*rate");
     CHECK(calc(u"=SUM(Table1[[#This Row],[a]])") == "=SUM(Table1[[#This Row];[a]])");
+    CHECK(calc(u"=COUNTA(Table1[#Headers])") == "=COUNTA(Table1[[#Headers]])");
+    CHECK(calc(u"=COUNTA(Table1[[#Headers]])") == "=COUNTA(Table1[[#Headers]])");
+    CHECK(excel(u"=COUNTA(Table1[[#Headers]])") == "=COUNTA(Table1[#Headers])");
+    CHECK(excel(u"=COUNTA(Table1[[#All];[a]])+Table1[[#Totals]]") == "=COUNTA(Table1[[#All],[a]])+Table1[#Totals]");
+    CHECK(excel(u"=Table1[[#") == "=Table1[[#");
 }

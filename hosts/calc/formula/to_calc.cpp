@@ -100,8 +100,12 @@ class ToCalc {
         return ahead > 0 && in_.peek(ahead) == u':';
     }
 
+    // Calc knows a part of a table, such as #Headers, in brackets of its own only.
     void copy_brackets() {
+        const bool is_part = in_.peek(1) == u'#';
+        if (is_part) in_.put(u'[');
         in_.copy_brackets(u',', u';');
+        if (is_part) in_.put(u']');
         after_operand_ = true;
     }
 

@@ -48,11 +48,21 @@ class ToExcel {
     }
 
   private:
+    // One part alone, as [[#Headers]], which Excel writes in one pair of brackets.
+    bool is_part_of_table() {
+        const std::u16string_view rest = in_.text().substr(in_.position());
+        return rest.starts_with(u"[[#") && rest.find(u']') == rest.find(u"]]") && rest.find(u"]]") != rest.npos;
+    }
+
     void step() {
         const char16_t c = in_.here();
         if (c == u'{' || c == u'}') {
             in_array_ = c == u'{';
             in_.put(in_.take());
+        } else if (c == u'[' && is_part_of_table()) {
+            in_.take();
+            in_.copy_brackets(u';', u',');
+            in_.take();
         } else if (c == u'[') {
             in_.copy_brackets(u';', u',');
         } else if (c == u';' || c == u'~') {
