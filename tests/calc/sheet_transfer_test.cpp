@@ -181,6 +181,18 @@ TEST_CASE("printing one sheet of a workbook") {
     CHECK(printed(u"Sheet1") == "11001");
     CHECK(printed(u"Empty") == "nothing");
     CHECK(active_sheet(calc) == "Empty");
+    // A printer that is not there, for paper and for a file.
+    for (const bool into_file : {false, true}) {
+        CAPTURE(into_file);
+        std::filesystem::remove(file);
+        const Variant path = into_file ? Variant(std::u16string(file.u16string())) : Variant(Missing{});
+        CHECK(error_of([&] {
+                  first.call(names::PrintOut, named(MemberName(u"ActivePrinter"), u"No such printer"),
+                             named(MemberName(u"PrToFileName"), path));
+              }) == 1004);
+        CHECK_FALSE(std::filesystem::exists(file));
+    }
+    CHECK(active_sheet(calc) == "Empty");
     first.put(names::Visible, 0);
     CHECK(error_of([&] { first.call(names::PrintOut); }) == 1004);
     const std::u16string nowhere((calc.folder() / "absent" / "x" / "y.pdf").u16string());

@@ -1,5 +1,6 @@
 #include "hosts/calc/adapter/sheet_print.hpp"
 
+#include <algorithm>
 #include <com/sun/star/awt/PrinterServer.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
@@ -33,10 +34,13 @@ std::u16string number(std::int32_t value) {
     return from_utf8(std::to_string(value));
 }
 
-void require_printer(const HostPointer& host) {
+// The office prints with another one where it does not know the printer, or with none at all.
+void require_printer(const HostPointer& host, const std::optional<std::u16string>& name) {
     const Ref server{css::awt::PrinterServer::create(host->context())};
-    if (server->getPrinterNames().getLength() > 0) return;
-    throw Error(ErrorNumber::host_refused, {}, u"No printers are installed.");
+    const auto printers = server->getPrinterNames();
+    if (printers.getLength() == 0) throw Error(ErrorNumber::host_refused, {}, u"No printers are installed.");
+    if (!name || std::ranges::find(printers, to_uno(*name)) != printers.end()) return;
+    throw Error(ErrorNumber::host_refused, {}, u"There is no printer '" + *name + u"'.");
 }
 
 }  // namespace
@@ -55,9 +59,8 @@ void print_sheet(const Sheet& sheet, const PrintOptions& options) {
     }
     if (options.file) {
         values.push_back(named_value("FileName", to_uno(address_of_path(*options.file))));
-    } else {
-        require_printer(sheet.book.host);
     }
+    if (!options.file || options.printer) require_printer(sheet.book.host, options.printer);
     if (options.printer) {
         const css::beans::PropertyValue name = named_value("Name", to_uno(*options.printer));
         printable->setPrinter(sequence({name}));
