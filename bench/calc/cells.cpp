@@ -156,6 +156,25 @@ void register_cells(const Context& context) {
         },
         fill_raw);
     add(
+        "read 20,000 cells one by one/the office's cells with their formats",
+        [](const Bench& bench) {
+            for (std::int32_t row = 0; row < few_cells; ++row) {
+                const Ref cell{bench.raw->getCellByPosition(1, row)};
+                benchmark::DoNotOptimize(cell->getType());
+                benchmark::DoNotOptimize(cell->getValue());
+                benchmark::DoNotOptimize(calc::get_property<std::int32_t>(cell, "NumberFormat"));
+            }
+        },
+        fill_raw);
+    add(
+        "read 20,000 cells one by one/Value2",
+        [](const Bench& bench) {
+            for (std::int32_t row = 1; row <= few_cells; ++row) {
+                benchmark::DoNotOptimize(bench.sheet.get(names::Cells, row, 2).get(names::Value2));
+            }
+        },
+        fill_raw);
+    add(
         "read 20,000 cells one by one/Value",
         [](const Bench& bench) {
             for (std::int32_t row = 1; row <= few_cells; ++row) {

@@ -98,8 +98,8 @@ TEST_CASE("whatever call of a batch the office refuses, one undo brings the work
     for (const Batch& batch : batches()) {
         CAPTURE(to_utf8(batch.tool));
         Trial trial(batch);
-        const std::uint64_t failures = support::fail_each_host_call(clear_undo, [&] { trial.run(trial.application); },
-                                                                    [&](std::int32_t) { trial.check(); });
+        const std::uint64_t failures = support::fail_each_host_call(
+            clear_undo, [&] { trial.run(trial.application); }, [&](std::int32_t) { trial.check(); });
         MESSAGE(to_utf8(batch.tool) << ": " << failures << " calls refused once each");
         CHECK(failures > 50);
     }

@@ -9,10 +9,17 @@
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 
 #include "hosts/calc/adapter/file_paths.hpp"
-#include "hosts/calc/uno/text.hpp"
+#include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
+namespace {
+
+DrawPage page_at(const Ref<css::drawing::XDrawPages>& pages, std::int32_t index) {
+    return value_of<css::uno::Reference<css::drawing::XDrawPage>>(pages->getByIndex(index));
+}
+
+}  // namespace
 
 std::u16string Book::file_path() const {
     const rtl::OUString address = model()->getURL();
@@ -63,7 +70,7 @@ Sheet::Sheet(Book of, Ref<css::sheet::XSpreadsheet> which) : book(std::move(of))
               Ref<css::sheet::XCellRangesAccess>(Ref{book.document->getSheets()}),
               Ref{Ref<css::drawing::XDrawPagesSupplier>(book.document)->getDrawPages()},
               {}};
-    ways.page = Ref<css::uno::XInterface>(ways.pages->getByIndex(ways.place->getRangeAddress().Sheet));
+    ways.page = page_at(ways.pages, ways.place->getRangeAddress().Sheet);
     ways_ = std::make_shared<const Ways>(std::move(ways));
 }
 
@@ -75,18 +82,23 @@ std::int32_t Sheet::index() const {
     return ways_->place->getRangeAddress().Sheet;
 }
 
-Ref<css::uno::XInterface> Sheet::page() const {
-    return Ref<css::uno::XInterface>(ways_->pages->getByIndex(index()));
+DrawPage Sheet::page() const {
+    return page_at(ways_->pages, index());
 }
 
 void Sheet::require_alive() const {
     if (!(page() == ways_->page)) throw Error(ErrorNumber::host_refused);
 }
 
-// Not by way of the sheet: where cells are deleted, the object that stands for it loses rows or columns.
 Ref<css::table::XCellRange> Sheet::cells(std::int32_t left, std::int32_t top, std::int32_t right,
                                          std::int32_t bottom) const {
-    return ways_->cells->getCellRangeByPosition(left, top, right, bottom, index());
+    const css::table::CellRangeAddress place = ways_->place->getRangeAddress();
+    // Where cells are deleted, the object that stands for the sheet loses rows or columns.
+    const bool within =
+        place.StartColumn == 0 && place.StartRow == 0 && place.EndColumn >= right && place.EndRow >= bottom;
+    if (!within) return ways_->cells->getCellRangeByPosition(left, top, right, bottom, place.Sheet);
+    if (left != right || top != bottom) return sheet->getCellRangeByPosition(left, top, right, bottom);
+    return Ref<css::table::XCellRange>(Ref{sheet->getCellByPosition(left, top)});
 }
 
 Book book_named(const HostPointer& host, std::u16string_view name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XDrawPages.hpp>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
@@ -13,6 +14,7 @@
 namespace qor::calc {
 
 struct Sheet;
+using DrawPage = Ref<css::drawing::XDrawPage>;
 
 // An open workbook.
 struct Book {
@@ -42,7 +44,7 @@ struct Sheet {
     std::u16string name() const;
     std::int32_t index() const;  // from 0, at this moment
     // What is drawn on it.
-    Ref<css::uno::XInterface> page() const;
+    DrawPage page() const;
     // Raises 1004 when the sheet or its workbook is gone.
     void require_alive() const;
 
@@ -58,7 +60,7 @@ struct Sheet {
         Ref<css::drawing::XDrawPages> pages;
         // The office goes on answering for a sheet that was deleted, out of the one that took its place; only the page
         // that is found there is another one.
-        Ref<css::uno::XInterface> page;
+        DrawPage page;
     };
     std::shared_ptr<const Ways> ways_;
 };
