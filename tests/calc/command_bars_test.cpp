@@ -1,3 +1,5 @@
+#include <com/sun/star/awt/PosSize.hpp>
+#include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/ui/XModuleUIConfigurationManager.hpp>
 #include <com/sun/star/util/URLTransformer.hpp>
@@ -246,9 +248,16 @@ TEST_CASE("a toolbar of our own") {
     CHECK(error_of([&] { all.get(names::Item, u"Test - Report Manager"); }) == 5);
 }
 
+// Without a screen the office forgets where its window is when it tells where a toolbar floats in it.
+void move_window_to_corner() {
+    const auto desktop = css::frame::Desktop::create(office_context());
+    desktop->getCurrentFrame()->getContainerWindow()->setPosSize(0, 0, 0, 0, css::awt::PosSize::POS);
+}
+
 TEST_CASE("places of a toolbar read back what was set, before and after it is shown") {
     const Calc calc;
     const Object book = calc.add_book();
+    move_window_to_corner();
     const Object bar = calc.application.get(names::CommandBars).call(names::Add, u"Placed");
     bar.get(names::Controls).call(names::Add, button).put(names::Caption, u"One");
     bool shown_first = false;
