@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <ranges>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "runtime/clock.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/format.hpp"
+#include "services/cell_address.hpp"
 
 namespace qor {
 namespace {
@@ -105,16 +107,37 @@ void ReportSheet::add_records(std::span<RecordColumn> columns) {
 }
 
 void ReportSheet::write_formats(std::int32_t column, const RecordColumn& records, std::int32_t rows) {
+    std::map<const Variant*, std::vector<RowRun>> runs;
     const auto formats = std::span(records.formats).first(static_cast<std::size_t>(rows));
-    for (auto begin = formats.begin(); begin != formats.end();) {
-        const auto end = std::find_if_not(begin, formats.end(), [&](const Variant* other) { return other == *begin; });
-        const auto first_row = row_ + 1 + static_cast<std::int32_t>(begin - formats.begin());
-        if (*begin) {
-            by_halves({first_row, column, static_cast<std::int32_t>(end - begin), 1},
-                      [&](const CellArea& part) { range_of(sheet(), part).put(names::NumberFormat, **begin); });
+    const Variant* before = nullptr;
+    for (std::int32_t row = row_ + 1; const Variant* format : formats) {
+        if (format && format == before) {
+            runs[format].back().last = row;
+        } else if (format) {
+            runs[format].push_back({row, row});
         }
-        begin = end;
+        before = format;
+        ++row;
     }
+    for (const auto& [format, places] : runs) write_format(column, places, *format);
+}
+
+// Hosts differ in how many areas they take at once, so what is refused is tried again with half of them.
+void ReportSheet::write_format(std::int32_t column, std::span<const RowRun> runs, const Variant& format) {
+    if (runs.size() == 1) {
+        const RowRun& run = runs.front();
+        return by_halves({run.first, column, run.last - run.first + 1, 1},
+                         [&](const CellArea& part) { range_of(sheet(), part).put(names::NumberFormat, format); });
+    }
+    std::u16string address;
+    for (const RowRun& run : runs) {
+        if (!address.empty()) address += u',';
+        address += relative_address(run.first, column);
+        if (run.last > run.first) address += u':' + relative_address(run.last, column);
+    }
+    if (attempt([&] { sheet().get(names::Range, address).put(names::NumberFormat, format); }) == 0) return;
+    write_format(column, runs.first(runs.size() / 2), format);
+    write_format(column, runs.subspan(runs.size() / 2), format);
 }
 
 void ReportSheet::write_block(std::int32_t first_column, std::span<RecordColumn> columns, std::int32_t rows) {

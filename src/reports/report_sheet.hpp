@@ -40,7 +40,12 @@ class ReportSheet {
     void write_headings(std::span<const std::u16string> headings);
     void write_values(std::span<const std::optional<Variant>> values);
     void write_run(std::size_t first, std::span<const std::optional<Variant>> values);
+    struct RowRun {
+        std::int32_t first;
+        std::int32_t last;
+    };
     void write_formats(std::int32_t column, const RecordColumn& records, std::int32_t rows);
+    void write_format(std::int32_t column, std::span<const RowRun> runs, const Variant& format);
     void write_block(std::int32_t first_column, std::span<RecordColumn> columns, std::int32_t rows);
 
     const Object& sheet();

@@ -25,6 +25,12 @@ bool is_word_of_numbers(std::u16string_view word) {
     return std::ranges::find(words, word) != words.end();
 }
 
+// Those of them that only mean something behind a number: "5 PM", "1e5". Addresses such as "A5" are none.
+bool follows_number(std::u16string_view word) {
+    static constexpr std::array<std::u16string_view, 6> words{u"am", u"pm", u"a", u"p", u"e", u"t"};
+    return std::ranges::find(words, word) != words.end();
+}
+
 // False only for text that cannot be anything else. A digit alone does not make it a number: "Sheet1" is none.
 bool may_be_more_than_text(std::u16string_view text) {
     const std::u16string lower = to_lower(text);
@@ -33,7 +39,11 @@ bool may_be_more_than_text(std::u16string_view text) {
     for (std::size_t i = 0; i < lower.size();) {
         const std::size_t start = i;
         while (i < lower.size() && is_letter(lower[i])) ++i;
-        if (i > start && !is_word_of_numbers(std::u16string_view(lower).substr(start, i - start))) return false;
+        const std::u16string_view word = std::u16string_view(lower).substr(start, i - start);
+        if (!word.empty()) {
+            if (!is_word_of_numbers(word)) return false;
+            if (follows_number(word) && std::ranges::none_of(lower.substr(0, start), is_digit)) return false;
+        }
         if (i == start) ++i;
     }
     return true;

@@ -1,4 +1,5 @@
 #include <com/sun/star/sheet/XSheetAnnotation.hpp>
+#include <com/sun/star/sheet/XSheetAnnotationAnchor.hpp>
 #include <com/sun/star/sheet/XSheetAnnotations.hpp>
 #include <com/sun/star/sheet/XSheetAnnotationsSupplier.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
@@ -39,8 +40,16 @@ class CommentObject final : public CalcObject<CommentObject> {
     }
 
   private:
+    // The office hands out an empty one where there is none.
+    Annotation annotation_at_cell() const {
+        const Ref cell{sheet_.sheet->getCellByPosition(cell_.Column, cell_.Row)};
+        return Annotation(Ref{Ref<css::sheet::XSheetAnnotationAnchor>(cell)->getAnnotation()});
+    }
+
     // Raises 1004 when the comment is gone.
     Annotation annotation() const {
+        const Annotation here = annotation_at_cell();
+        if (!Ref<css::text::XTextRange>(here)->getString().isEmpty()) return here;
         const Annotations all = annotations_of(sheet_);
         const sal_Int32 count = all->getCount();
         for (sal_Int32 i = 0; i < count; ++i) {

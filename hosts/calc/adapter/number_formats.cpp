@@ -6,6 +6,7 @@
 #include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 
+#include "hosts/calc/adapter/kept_row_heights.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
@@ -51,16 +52,42 @@ void apply_to_unformatted(const Sheet& sheet, const Cells& cells, NumberKind kin
     }
 }
 
-// Sets the format in a run of cells. A date and money leave alone what has a format already.
-void apply(const Sheet& sheet, const Rectangle& run, NumberKind kind) {
+// A date and money leave alone what has a format already.
+bool keeps_formats(NumberKind kind) {
+    return kind == NumberKind::date || kind == NumberKind::currency;
+}
+
+void apply_where_unformatted(const Sheet& sheet, const Rectangle& run, NumberKind kind) {
     const Cells cells = cells_at(sheet, run);
-    const bool keeps_formats = kind == NumberKind::date || kind == NumberKind::currency;
-    if (keeps_formats) {
-        const auto state = Ref<css::beans::XPropertyState>(cells)->getPropertyState("NumberFormat");
-        if (state == css::beans::PropertyState_AMBIGUOUS_VALUE) return apply_to_unformatted(sheet, cells, kind);
-        if (!is_general_format(get_property<sal_Int32>(cells, "NumberFormat"))) return;
-    }
+    const auto state = Ref<css::beans::XPropertyState>(cells)->getPropertyState("NumberFormat");
+    if (state == css::beans::PropertyState_AMBIGUOUS_VALUE) return apply_to_unformatted(sheet, cells, kind);
+    if (!is_general_format(get_property<sal_Int32>(cells, "NumberFormat"))) return;
     set_property(cells, "NumberFormat", number_format_key(sheet.book, code_of(kind)));
+}
+
+// In all runs of one kind at once.
+void apply(const Sheet& sheet, const std::vector<KindRun>& changes, NumberKind kind) {
+    std::vector<Rectangle> runs;
+    for (const KindRun& change : changes) {
+        if (change.kind == kind) runs.push_back(change.cells);
+    }
+    if (runs.empty()) return;
+    set_property(ranges_at(sheet, runs).whole(), "NumberFormat", number_format_key(sheet.book, code_of(kind)));
+}
+
+// Which cells of the area, row by row, have a format of dates or money.
+std::vector<bool> cells_with_kept_format(const Rectangle& area, const std::vector<KindOfCells>& before) {
+    std::vector<bool> result(static_cast<std::size_t>(area.cells()));
+    for (const KindOfCells& cells : before) {
+        if (!keeps_formats(cells.kind)) continue;
+        for (const css::table::CellRangeAddress& at : cells.places) {
+            for (std::int32_t row = at.StartRow; row <= at.EndRow; ++row) {
+                const auto start = result.begin() + std::int64_t{row - area.top} * area.width() - area.left;
+                std::fill(start + at.StartColumn, start + at.EndColumn + 1, true);
+            }
+        }
+    }
+    return result;
 }
 
 // Date letters come in capitals, colours too, and Booleans have a format of their own.
@@ -121,12 +148,17 @@ std::vector<KindRun> number_kind_changes(const Rectangle& area, const std::vecto
         }
     }
     if (std::ranges::all_of(kinds, [](NumberKind kind) { return kind == NumberKind::plain; })) return changes;
+    const std::vector<bool> kept = cells_with_kept_format(area, before);
     const auto width = static_cast<std::size_t>(area.width());
     for (std::size_t column = 0; column < width; ++column) {
+        const auto kind_at = [&](std::size_t row) {
+            const std::size_t place = row * width + column;
+            return keeps_formats(kinds[place]) && kept[place] ? NumberKind::plain : kinds[place];
+        };
         for (std::size_t row = 0, count = kinds.size() / width; row < count;) {
-            const NumberKind kind = kinds[row * width + column];
+            const NumberKind kind = kind_at(row);
             std::size_t end = row + 1;
-            while (end < count && kinds[end * width + column] == kind) ++end;
+            while (end < count && kind_at(end) == kind) ++end;
             const auto left = area.left + static_cast<std::int32_t>(column);
             const auto top = area.top + static_cast<std::int32_t>(row);
             const auto bottom = area.top + static_cast<std::int32_t>(end) - 1;
@@ -138,7 +170,12 @@ std::vector<KindRun> number_kind_changes(const Rectangle& area, const std::vecto
 }
 
 void apply_number_kinds(const Sheet& sheet, const std::vector<KindRun>& changes) {
-    for (const KindRun& change : changes) apply(sheet, change.cells, change.kind);
+    if (changes.empty()) return;
+    const KeptRowHeights heights(sheet.book.document);
+    for (const NumberKind kind : {NumberKind::plain, NumberKind::boolean}) apply(sheet, changes, kind);
+    for (const KindRun& change : changes) {
+        if (keeps_formats(change.kind)) apply_where_unformatted(sheet, change.cells, change.kind);
+    }
 }
 
 }  // namespace qor::calc

@@ -1,10 +1,12 @@
 #include "hosts/calc/adapter/range_areas.hpp"
 
+#include <algorithm>
 #include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeReferrer.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <optional>
+#include <span>
 
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
@@ -65,9 +67,14 @@ Sheet sheet_of_prefix(const Sheet& sheet, std::u16string_view prefix) {
     return book_named(sheet.book.host, place.substr(1, close - 1)).sheet(place.substr(close + 1));
 }
 
-RangeAreas one_area(const Sheet& default_sheet, std::u16string_view text, const Rectangle& origin) {
+std::u16string_view without_blanks(std::u16string_view text) {
     while (text.starts_with(u' ')) text.remove_prefix(1);
     while (text.ends_with(u' ')) text.remove_suffix(1);
+    return text;
+}
+
+RangeAreas one_area(const Sheet& default_sheet, std::u16string_view text, const Rectangle& origin) {
+    text = without_blanks(text);
     Sheet sheet = default_sheet;
     Rectangle offset = origin;
     if (const std::size_t mark = text.rfind(u'!'); mark != std::u16string_view::npos) {
@@ -80,7 +87,32 @@ RangeAreas one_area(const Sheet& default_sheet, std::u16string_view text, const 
     throw Error(ErrorNumber::host_refused, {}, u"Method 'Range' of object '_Global' failed");
 }
 
+// Areas that all name cells of this sheet by their places; nothing where one of them does not.
+std::optional<RangeAreas> areas_by_place(const Sheet& sheet, const std::vector<std::u16string_view>& parts,
+                                         const Rectangle& origin) {
+    std::vector<Rectangle> areas;
+    for (const std::u16string_view part : parts) {
+        const auto pair = parse_range(without_blanks(part));
+        if (!pair) return {};
+        areas.push_back(rectangle_between(*pair, origin));
+    }
+    return ranges_at(sheet, areas);
+}
+
 }  // namespace
+
+void AreaList::push_back(Cells area) {
+    each();
+    together_ = {};
+    areas_.push_back(std::move(area));
+}
+
+const std::vector<Cells>& AreaList::each() const {
+    while (together_ && areas_.size() < size_together_) {
+        areas_.emplace_back(together_->getByIndex(static_cast<sal_Int32>(areas_.size())));
+    }
+    return areas_;
+}
 
 bool Rectangle::within_sheet() const {
     return left >= 0 && top >= 0 && left <= right && top <= bottom && right < column_limit && bottom < row_limit;
@@ -106,6 +138,7 @@ Rectangle RangeAreas::rectangle(std::size_t area) const {
 }
 
 Ref<css::uno::XInterface> RangeAreas::whole() const {
+    if (areas.together()) return Ref<css::uno::XInterface>(areas.together());
     if (areas.size() == 1) return Ref<css::uno::XInterface>(areas.front());
     auto all =
         create_in<css::sheet::XSheetCellRangeContainer>(sheet.book.document, "com.sun.star.sheet.SheetCellRanges");
@@ -124,6 +157,19 @@ RangeAreas range_at(const Sheet& sheet, const Rectangle& rectangle, RangeUnit un
     return {sheet, {cells_at(sheet, rectangle)}, unit};
 }
 
+RangeAreas ranges_at(const Sheet& sheet, const std::vector<Rectangle>& rectangles) {
+    if (rectangles.size() == 1) return range_at(sheet, rectangles.front());
+    if (!std::ranges::all_of(rectangles, &Rectangle::within_sheet)) throw Error(ErrorNumber::host_refused);
+    std::vector<css::table::CellRangeAddress> addresses;
+    const auto index = static_cast<sal_Int16>(sheet.index());
+    for (const Rectangle& area : rectangles)
+        addresses.emplace_back(index, area.left, area.top, area.right, area.bottom);
+    const auto all =
+        create_in<css::sheet::XSheetCellRangeContainer>(sheet.book.document, "com.sun.star.sheet.SheetCellRanges");
+    all->addRangeAddresses({addresses.data(), static_cast<sal_Int32>(addresses.size())}, false);
+    return {sheet, {Ref<css::container::XIndexAccess>(all), rectangles.size()}};
+}
+
 RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit) {
     RangeAreas result{areas.sheet, {}, unit};
     for (std::size_t i = 0; i < areas.areas.size(); ++i) {
@@ -136,16 +182,15 @@ RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit) {
 }
 
 RangeAreas range_named(const Sheet& sheet, std::u16string_view text, const Rectangle& origin) {
-    std::optional<RangeAreas> result;
-    for (const std::u16string_view part : split_areas(text)) {
-        RangeAreas area = one_area(sheet, part, origin);
-        if (!result) {
-            result = std::move(area);
-        } else {
-            result->areas.insert(result->areas.end(), area.areas.begin(), area.areas.end());
-        }
+    const std::vector<std::u16string_view> parts = split_areas(text);
+    if (parts.size() > 1) {
+        if (auto areas = areas_by_place(sheet, parts, origin)) return *std::move(areas);
     }
-    return *std::move(result);
+    RangeAreas result = one_area(sheet, parts.front(), origin);
+    for (const std::u16string_view part : std::span(parts).subspan(1)) {
+        for (const Cells& area : one_area(sheet, part, origin).areas) result.areas.push_back(area);
+    }
+    return result;
 }
 
 std::u16string address_text(const Rectangle& rectangle, bool row_fixed, bool column_fixed) {

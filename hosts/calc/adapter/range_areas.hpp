@@ -1,7 +1,9 @@
 #pragma once
 
+#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/table/CellRangeAddress.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,13 +30,41 @@ struct Rectangle {
 
 using Cells = Ref<css::table::XCellRange>;
 
+// Rectangles of cells. Many that were named at once are one object of the office, and each by itself is taken out of it
+// only when it is needed: to format them all costs a few calls, however many they are.
+class AreaList {
+  public:
+    AreaList() = default;
+    AreaList(std::initializer_list<Cells> areas) : areas_(areas) {}
+    AreaList(Ref<css::container::XIndexAccess> together, std::size_t size)
+        : together_(std::move(together)), size_together_(size) {}
+
+    std::size_t size() const noexcept { return together_ ? size_together_ : areas_.size(); }
+    bool empty() const noexcept { return size() == 0; }
+    const Cells& front() const { return each().front(); }
+    const Cells& operator[](std::size_t place) const { return each()[place]; }
+    auto begin() const { return each().begin(); }
+    auto end() const { return each().end(); }
+    // The one object; empty where there is none.
+    const Ref<css::container::XIndexAccess>& together() const noexcept { return together_; }
+
+    void push_back(Cells area);
+
+  private:
+    const std::vector<Cells>& each() const;
+
+    mutable std::vector<Cells> areas_;
+    Ref<css::container::XIndexAccess> together_;
+    std::size_t size_together_ = 0;
+};
+
 // What a range counts and enumerates.
 enum class RangeUnit : std::uint8_t { cells, rows, columns };
 
 // The rectangles of a range, at least one. The office keeps their places when rows or columns are inserted.
 struct RangeAreas {
     Sheet sheet;
-    std::vector<Cells> areas;
+    AreaList areas;
     RangeUnit unit = RangeUnit::cells;
 
     Rectangle rectangle(std::size_t area = 0) const;
@@ -45,6 +75,8 @@ struct RangeAreas {
 // Raises 1004 when it reaches over the edge of the sheet.
 Cells cells_at(const Sheet& sheet, const Rectangle& rectangle);
 RangeAreas range_at(const Sheet& sheet, const Rectangle& rectangle, RangeUnit unit = RangeUnit::cells);
+// Many at once: one call for all that lie within the sheet.
+RangeAreas ranges_at(const Sheet& sheet, const std::vector<Rectangle>& rectangles);
 Rectangle rectangle_of(const Cells& cells);
 // The whole rows or columns that the areas lie in, area by area.
 RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit);

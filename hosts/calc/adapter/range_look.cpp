@@ -12,6 +12,7 @@
 
 #include "hosts/calc/adapter/attributes.hpp"
 #include "hosts/calc/adapter/digit_width.hpp"
+#include "hosts/calc/adapter/kept_row_heights.hpp"
 #include "hosts/calc/adapter/number_formats.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
 
@@ -104,6 +105,7 @@ Variant RangeObject::number_format() {
 }
 
 void RangeObject::set_number_format(const std::u16string& format) {
+    const KeptRowHeights heights(areas_.sheet.book.document);
     set_attribute(areas_, "NumberFormat", number_format_key(areas_.sheet.book, format));
 }
 
@@ -116,6 +118,7 @@ Variant RangeObject::horizontal_alignment() {
 void RangeObject::set_horizontal_alignment(std::int32_t alignment) {
     const auto* row = std::ranges::find(alignments, alignment, &Alignment::excel);
     if (row == alignments.end()) throw Error(ErrorNumber::host_refused);
+    const KeptRowHeights heights(areas_.sheet.book.document);
     set_attribute(areas_, "HoriJustify", row->calc);
 }
 
