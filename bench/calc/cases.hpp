@@ -15,6 +15,12 @@ void register_worksheet_summary(const Context& context);
 // The worksheets of a workbook brought into order, by the tool and by the moves that it takes.
 void register_sort_worksheets(const Context& context);
 
+// The reports of cells, by the tool, by the walk from cell to cell and as a plain array.
+void register_cell_reports(const Context& context);
+
+// The summaries of a workbook of many sheets.
+void register_summaries(const Context& context);
+
 // Cells read, written and coloured through the adapter, beside the office's own interfaces.
 void register_cells(const Context& context);
 

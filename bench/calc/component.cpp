@@ -11,6 +11,8 @@ int run(const Context& context, std::span<const char* const> arguments, std::ost
     qor::bench::register_recalculation(context);
     qor::bench::register_worksheet_summary(context);
     qor::bench::register_sort_worksheets(context);
+    qor::bench::register_cell_reports(context);
+    qor::bench::register_summaries(context);
     qor::bench::register_cells(context);
     return qor::bench::run_with_ratios(arguments, report) ? 0 : 1;
 }
