@@ -24,12 +24,29 @@ prepare_packages() {
     }
 }
 
+# unpack_packages FOLDER PACKAGE...: the files of packages that need not be installed, each package in a folder of its
+# own; asks the network for nothing when they are there.
+unpack_packages() {
+    local folder=$1 package
+    shift
+    for package in "$@"; do
+        [ -d "$folder/$package" ] && continue
+        rm -rf "$folder/part" && mkdir -p "$folder/part/files" &&
+            (cd "$folder/part" && apt-get download -qq "$package" && dpkg-deb -x ./*.deb files) &&
+            mv "$folder/part/files" "$folder/$package" && rm -rf "$folder/part" || {
+            echo "The package could not be unpacked: $package" >&2
+            return 3
+        }
+    done
+}
+
 build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev libfmt-dev
     libreoffice-calc libreoffice-dev librsvg2-bin optipng libwxgtk3.2-dev libgtk-3-dev
     doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev)  # the last four: configuring looks at tests and bench too
 run_packages=(libreoffice-gtk3 libreoffice-base-drivers poppler-utils fonts-liberation)
 test_packages=(clang-format clang-tidy procps
-    xvfb openbox xdotool hunspell-en-us)
+    xvfb openbox xdotool hunspell-en-us python3-openpyxl python3-xlrd)
+sample_packages=(libreoffice-dev-doc python-odf-doc r-cran-openxlsx r-cran-readxl)  # workbooks that others made
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine64 libwine-dev)
 
 # Checkouts in other folders share what ccache keeps.
