@@ -43,7 +43,7 @@ PropertyValues description_of(const FileFormat& format) {
 class ActiveSheetFirst {
   public:
     explicit ActiveSheetFirst(const Book& book)
-        : sheets_(book.document->getSheets()), undo_(), sheet_(book.active_sheet()), place_(sheet_.index()) {
+        : sheets_(book.document->getSheets()), sheet_(book.active_sheet()), place_(sheet_.index()) {
         if (place_ == 0) return;
         undo_ = Ref{Ref<css::document::XUndoManagerSupplier>(book.document)->getUndoManager()};
         undo_->lock();

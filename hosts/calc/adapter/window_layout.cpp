@@ -17,6 +17,7 @@ std::int32_t share(std::int32_t length, std::int32_t place, std::int32_t count) 
 
 std::vector<WindowPlace> in_rows(std::int32_t count, const WindowPlace& area) {
     std::vector<WindowPlace> result;
+    result.reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 0; i < count; ++i) {
         result.push_back({area.x, area.y + area.height * i / count, area.width, share(area.height, i, count)});
     }
@@ -25,6 +26,7 @@ std::vector<WindowPlace> in_rows(std::int32_t count, const WindowPlace& area) {
 
 std::vector<WindowPlace> in_columns(std::int32_t count, const WindowPlace& area) {
     std::vector<WindowPlace> result;
+    result.reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 0; i < count; ++i) {
         result.push_back({area.x + area.width * i / count, area.y, share(area.width, i, count), area.height});
     }

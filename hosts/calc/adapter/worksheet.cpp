@@ -101,7 +101,7 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     Object used_range() { return make_range(range_at(sheet_, used_area(sheet_))); }
 
     Object part(RangeUnit unit, const Variant& first, const Variant& second) {
-        const Object all = make_range(range_at(sheet_, whole_sheet, unit));
+        Object all = make_range(range_at(sheet_, whole_sheet, unit));
         if (first.is_missing()) return all;
         return second.is_missing() ? all.get(names::Item, first) : all.get(names::Item, first, second);
     }

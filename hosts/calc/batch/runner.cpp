@@ -55,7 +55,7 @@ std::int32_t run_batch(calc::PrivateOffice& office, const fs::path& report, std:
     std::ranges::transform(arguments, passed.getArray(), text);
     std::int32_t exit_code = failed_without_report;
     office.work([&] {
-        const auto context = office.context();
+        const auto& context = office.context();
         const css::uno::Reference<css::task::XJob> batch(
             context->getServiceManager()->createInstanceWithContext(QOR_BATCH_SERVICE, context),
             css::uno::UNO_QUERY_THROW);

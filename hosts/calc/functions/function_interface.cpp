@@ -28,6 +28,7 @@ void register_method(const Function& function, const OUString& method_name, sal_
     std::vector<OUString> names;
     for (const auto& parameter : function.parameters) names.push_back(to_uno(parameter.name));
     std::vector<typelib_Parameter_Init> parameters;
+    parameters.reserve(names.size());
     for (const OUString& name : names)
         parameters.push_back({typelib_TypeClass_ANY, any_name.pData, name.pData, true, false});
     rtl_uString* exceptions[] = {runtime_exception.pData};

@@ -38,6 +38,7 @@ class BatchJob final : public cppu::WeakImplHelper2<css::task::XJob, css::lang::
             for (const OUString& text : value_of<Sequence<OUString>>(argument.Value)) passed.push_back(utf8(text));
         }
         std::vector<const char*> pointers;
+        pointers.reserve(passed.size());
         for (const std::string& argument : passed) pointers.push_back(argument.c_str());
         std::ofstream out(report);
         keep_sanitizer_in_this_process();
