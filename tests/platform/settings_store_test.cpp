@@ -56,8 +56,9 @@ TEST_CASE_FIXTURE(FreshStore, "settings: names are found in any case") {
 }
 
 TEST_CASE_FIXTURE(FreshStore, "settings: any text is kept") {
+    using namespace std::string_literals;
     const std::u16string long_text(10'000, u'\u00E9');
-    const std::u16string awkward(u"a\0b=[c]\r\n\t%u0041 \\n \xD83D", 24);
+    const std::u16string awkward = u"a\0b=[c]\r\n\t%u0041 \\n \xD83D"s;
     for (const std::u16string& text : {long_text, awkward, std::u16string(u" "), std::u16string(1, u'\0')}) {
         CHECK(store.write(u"Options", u"text", text));
         CHECK((absent_or(store.read(u"Options", u"text")) == text));
