@@ -20,6 +20,9 @@ using nlohmann::json;
 // In the order of MessageAnswer.
 constexpr std::array answer_texts{"OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
 
+// An answer, too, where a message offers it; the message stays for the next one.
+constexpr const char* help_text = "Help";
+
 const char* text_of(MessageAnswer answer) {
     return answer_texts.at(static_cast<std::size_t>(answer));
 }
@@ -70,13 +73,14 @@ void ScriptScreen::begin_call(const json& call) {
               {"colors", list_of(call, "colors", is_number_or_null, "a list of whole numbers")}};
     shown_forms_ = json::array();
     messages_ = json::array();
+    asked_ = 0;
     progress_ = nullptr;
 }
 
 json ScriptScreen::end_call(bool command_failed) {
     if (!command_failed) {
         require_used("form", shown_forms_.size(), "actions", forms_.size());
-        require_used("message", messages_.size(), "answers", answers_.size());
+        require_used("message", asked_, "answers", answers_.size());
         for (const auto& [key, left] : picks_.items()) {
             if (!left.empty())
                 throw ScriptError(fmt::format("the call asked for no more {}, the script has {}", key, left.size()));
@@ -108,8 +112,11 @@ MessageAnswer ScriptScreen::message_box(const MessageBox& message) {
     json texts = json::array();
     for (const MessageAnswer answer : offered) texts.push_back(text_of(answer));
 
+    const auto help_wanted = [&] { return asked_ < answers_.size() && answers_[asked_] == help_text; };
+    for (; message.open_help && help_wanted(); ++asked_) message.open_help();
+
     MessageAnswer answer = default_answer(message);
-    const std::size_t place = messages_.size();
+    const std::size_t place = asked_++;
     if (place < answers_.size()) {
         const auto chosen = std::ranges::find(texts, answers_[place]);
         if (chosen == texts.end()) {

@@ -43,6 +43,7 @@ class ScriptScreen final : public Screen {
     nlohmann::json answers_ = nlohmann::json::array();
     nlohmann::json shown_forms_ = nlohmann::json::array();
     nlohmann::json messages_ = nlohmann::json::array();
+    std::size_t asked_ = 0;  // how many answers were called for
     nlohmann::json progress_;
     // The next of what is picked, by the script's key; null when nothing is left.
     nlohmann::json next_pick(const std::string& key);

@@ -1,4 +1,5 @@
 // The dialogs that the system draws: messages, files, folders and colours.
+#include <wx/app.h>
 #include <wx/colordlg.h>
 #include <wx/dirdlg.h>
 #include <wx/filedlg.h>
@@ -9,6 +10,7 @@
 #include <span>
 
 #include "screens/wx/colours.hpp"
+#include "screens/wx/system_dialog.hpp"
 #include "screens/wx/text.hpp"
 #include "screens/wx/wx_screen.hpp"
 
@@ -54,6 +56,7 @@ long style_of(const MessageBox& message, std::span<const Answer> offered) {
     const int chosen = offered[place].id;
     if (chosen == wxID_NO) style |= wxNO_DEFAULT;
     if (chosen == wxID_CANCEL) style |= wxCANCEL_DEFAULT;
+    if (message.open_help) style |= wxHELP;
     return style;
 }
 
@@ -69,6 +72,7 @@ void set_labels(wxMessageDialog& dialog, std::span<const Answer> offered) {
     } else {
         dialog.SetYesNoCancelLabels(label(wxID_YES), label(wxID_NO), label(wxID_CANCEL));
     }
+    dialog.SetHelpLabel("&Help");
 }
 
 wxString wildcard(const std::vector<FileDialog::Kind>& kinds) {
@@ -87,7 +91,12 @@ MessageAnswer WxScreen::message_box(const MessageBox& message) {
     const long style = style_of(message, offered);
     wxMessageDialog dialog(parent_for(nullptr), to_wx(message.text), to_wx(message.title), style);
     set_labels(dialog, offered);
-    const int pressed = run(dialog);
+    int pressed = wxID_HELP;
+    while (pressed == wxID_HELP) {
+        if (message.open_help) wxTheApp->CallAfter([&] { wx::press_help_on_f1(dialog); });  // once it has a window
+        pressed = run(dialog);
+        if (pressed == wxID_HELP) message.open_help();
+    }
     for (const Answer& button : offered) {
         if (button.id == pressed) return button.answer;
     }

@@ -96,12 +96,15 @@ void CCom::UTAltTem(const Object& objoleEx) {
     constexpr std::int32_t workbook_tab = 1;
     gExcel = objoleEx;
     if (!boolean_option(u"chkT2AlternateTemplate", u"0")) {
+        const auto open_help = [this] {
+            attempt([this] { gExcel.call(names::Help, QHelpFile, alternate_template_help_id); });
+        };
         environment().screen.message_box({.title = QTitle(),
                                           .text = u"The alternate template is not enabled.  You may enable this "
                                                   u"function in the options dialog box.",
                                           .icon = MessageIcon::information,
-                                          .help_file = QHelpFile,
-                                          .help_id = alternate_template_help_id});
+                                          .help_id = alternate_template_help_id,
+                                          .open_help = open_help});
         show_options(workbook_tab);
     } else if (const std::u16string file = text_option(u"txtT2AlternateTemplateFile"); !file.empty()) {
         gExcel.get(names::Workbooks).call(names::Add, file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,9 +16,9 @@ struct MessageBox {
     std::u16string text;
     MessageIcon icon = MessageIcon::none;
     MessageButtons buttons = MessageButtons::ok;
-    std::u16string help_file = {};
-    std::int32_t help_id = 0;         // 0: there is no help
-    std::uint8_t default_button = 0;  // place among the buttons, from the left, from 0
+    std::int32_t help_id = 0;              // 0: there is no help
+    std::function<void()> open_help = {};  // by a Help button and F1; the message stays. Empty: there is no help
+    std::uint8_t default_button = 0;       // place among the buttons, from the left, from 0
 };
 
 // What the buttons answer, from the left.

@@ -26,11 +26,12 @@ struct Dialog {
     fakes::MemorySettings settings;
     fakes::HostLog log;
     std::vector<std::u16string> host_calls;
+    std::int32_t help_id = 0;  // of the last call for help
     Object com = (set_environment({screen, settings}), make_object<CCom>());
     Object host = fakes::make_fake(log, u"Application", [this](fakes::FakeObject& application) {
         application.answers(names::Help, [this](Access, std::span<Variant> arguments) -> Variant {
             CHECK(*arguments[0].get_if<std::u16string>() == u"help.chm");
-            CHECK(*arguments[1].get_if<std::int32_t>() == 170125);
+            help_id = *arguments[1].get_if<std::int32_t>();
             host_calls.emplace_back(u"Help");
             return {};
         });
@@ -304,6 +305,7 @@ TEST_CASE_FIXTURE(Dialog, "captions are brought up to date as soon as their opti
 TEST_CASE_FIXTURE(Dialog, "Help opens the host's help, and its refusal is passed over") {
     play(R"j([{"press": "cmdButton(3)"}])j"_json);
     CHECK(host_calls == std::vector<std::u16string>{u"Help"});
+    CHECK(help_id == 170125);
     log.refuses = [](auto, std::u16string_view member, auto) { return member == u"Help"; };
     CHECK_NOTHROW(play(R"j([{"press": "cmdButton(3)"
     }])j"_json));
@@ -337,6 +339,19 @@ TEST_CASE_FIXTURE(Dialog, "without an alternate template the options are offered
     CHECK(value(shown["forms"][0], "tabOptions") == 1);
     CHECK(*com.get(QDoSelectionChange).get_if<bool>());
     CHECK_FALSE(gExcel);
+}
+
+TEST_CASE_FIXTURE(Dialog, "the message on the missing template has a help, whose refusal is passed over") {
+    const json call = R"j({"answers": ["Help", "OK"]})j"_json;
+    screen.begin_call(call);
+    com.call(UTAltTem, host);
+    CHECK(screen.end_call()["forms"].size() == 1);
+    CHECK(host_calls == std::vector<std::u16string>{u"Help"});
+    CHECK(help_id == 170010);
+    log.refuses = [](auto, std::u16string_view member, auto) { return member == u"Help"; };
+    screen.begin_call(call);
+    com.call(UTAltTem, host);
+    CHECK(screen.end_call()["forms"].size() == 1);
 }
 
 TEST_CASE_FIXTURE(Dialog, "an alternate template makes a new workbook; without its name nothing happens") {

@@ -245,6 +245,22 @@ TEST_CASE_FIXTURE(Script, "forms get their actions in the order in which they op
     CHECK(screen.end_call()["forms"].size() == 2);
 }
 
+TEST_CASE_FIXTURE(Script, "help is asked of a message that has some, before it is answered") {
+    int opened = 0;
+    const MessageBox message{
+        .title = {}, .text = u"Sure?", .buttons = MessageButtons::yes_no, .open_help = [&] { ++opened; }};
+    screen.begin_call(R"({"answers": ["Help", "Help", "No", "Yes", "Help"]})"_json);
+    CHECK(screen.message_box(message) == MessageAnswer::no);
+    CHECK(opened == 2);
+    CHECK(screen.message_box(message) == MessageAnswer::yes);
+    CHECK(screen.message_box(message) == MessageAnswer::yes);  // none left: its default
+    CHECK(opened == 3);
+    CHECK(screen.end_call()["messages"].size() == 3);
+    screen.begin_call(R"({"answers": ["Help"]})"_json);
+    CHECK_THROWS_WITH_AS(screen.message_box({.title = {}, .text = u"Sure?"}),
+                         R"(the message "Sure?" offers ["OK"], but the script answers "Help")", ScriptError);
+}
+
 TEST_CASE_FIXTURE(Script, "more forms or answers than the call asked for are an error, unless it failed") {
     const json call = R"({"forms": [[], []], "answers": ["OK"]})"_json;
     screen.begin_call(call);

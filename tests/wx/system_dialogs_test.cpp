@@ -1,3 +1,4 @@
+#include <atomic>
 #include <fstream>
 
 #include "tests/platform/temporary_folder.hpp"
@@ -96,4 +97,32 @@ TEST_CASE_FIXTURE(SystemDialog, "a colour is picked, or not at all") {
         play(pick, "Choose colour", [&](User& user) { user.key("Escape"); });
         CHECK_FALSE(picked);
     }
+}
+
+TEST_CASE_FIXTURE(SystemDialog, "a message's help is opened by its button and by F1, and the message stays") {
+    std::atomic<int> opened = 0;
+    MessageBox message{.title = u"Template", .text = u"Not enabled.", .icon = MessageIcon::information};
+    std::optional<MessageAnswer> answer;
+    const auto ask = [&] { answer = screen.message_box(message); };
+    SUBCASE("by either") {
+        message.open_help = [&] { ++opened; };
+        play(ask, "Template", [&](User& user) {
+            user.key("F1");
+            CHECK(user.sees([&] { return opened == 1; }));
+            REQUIRE(user.sees_dialog("Template"));
+            user.key("alt+h");
+            CHECK(user.sees([&] { return opened == 2; }));
+            REQUIRE(user.sees_dialog("Template"));
+            CHECK_FALSE(answer);
+            user.key("Return");
+        });
+        CHECK(opened == 2);
+    }
+    SUBCASE("it has none") {
+        play(ask, "Template", [&](User& user) {
+            user.key("F1");
+            user.key("Return");
+        });
+    }
+    CHECK(answer == MessageAnswer::ok);
 }

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "automation/error.hpp"
-#include "core/MMain.hpp"
 #include "hosts/excel/screen/host_window.hpp"
 #include "platform/windows/system.hpp"
 #include "platform/windows/system_text.hpp"
@@ -23,12 +22,11 @@ constexpr std::array<UINT, 6> buttons{MB_OK,          MB_OKCANCEL, MB_ABORTRETRY
 constexpr std::array<int, 7> answers{IDOK, IDCANCEL, IDABORT, IDRETRY, IDIGNORE, IDYES, IDNO};
 constexpr std::array<UINT, 4> default_buttons{MB_DEFBUTTON1, MB_DEFBUTTON2, MB_DEFBUTTON3, MB_DEFBUTTON4};
 
-// The host opens its help for what is shown now. A message shows no other message meanwhile.
+// A message shows no other message meanwhile.
 const MessageBox* shown = nullptr;
 
 void CALLBACK open_help(HELPINFO*) {
-    static const MemberName Help{u"Help"};
-    if (shown) attempt([] { gExcel.call(Help, shown->help_file, shown->help_id); });
+    if (shown) attempt(shown->open_help);
 }
 
 }  // namespace
@@ -48,7 +46,7 @@ MessageAnswer SystemScreen::message_box(const MessageBox& message) {
     box.lpszCaption = title.c_str();
     box.dwStyle = icons[static_cast<std::size_t>(message.icon)] | buttons[static_cast<std::size_t>(message.buttons)] |
                   default_buttons[std::min<std::size_t>(message.default_button, default_buttons.size() - 1)];
-    if (message.help_id != 0 && box.hwndOwner) {
+    if (message.open_help && box.hwndOwner) {
         box.dwStyle |= MB_HELP;
         box.lpfnMsgBoxCallback = open_help;
     }
