@@ -3,6 +3,9 @@
 #include <wx/app.h>
 
 #include <chrono>
+#include <com/sun/star/awt/Toolkit.hpp>
+#include <com/sun/star/awt/XToolkitExperimental.hpp>
+#include <thread>
 
 #include "automation/member_names.hpp"
 #include "bench/calc_window/cases.hpp"
@@ -63,9 +66,20 @@ struct Dialog {
     int repetitions = 5;
 };
 
+// The host paints its new window first: a user opens dialogs over one that stands still.
+void let_host_settle(const Context& context) {
+    using namespace std::chrono_literals;
+    const css::uno::Reference<css::awt::XToolkitExperimental> toolkit(css::awt::Toolkit::create(context),
+                                                                      css::uno::UNO_QUERY_THROW);
+    for (const auto end = Clock::now() + 500ms; Clock::now() < end; std::this_thread::sleep_for(5ms)) {
+        toolkit->processEventsToIdle();
+    }
+}
+
 void show(benchmark::State& state, const Context& context, const Dialog& dialog) {
     const Object application = calc::make_application(context, nullptr);
     const Object book = application.get(names::Workbooks).call(names::Add).object();
+    let_host_settle(context);
     IniSettingsStore settings("");
     for (auto _ : state) {
         const auto begin = Clock::now();
