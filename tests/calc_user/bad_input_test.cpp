@@ -2,6 +2,8 @@
 
 #include <fstream>
 
+#include "core/product.hpp"
+#include "platform/text.hpp"
 #include "tests/calc_user/users_calc.hpp"
 
 namespace qor::calc::tests {
@@ -39,12 +41,32 @@ void keep_nonsense(const UsersHome& home) {
     std::ofstream(home.data() / "Bookmarks.dat") << std::string(100'000, '\xbf');
 }
 
+// A program for addresses that notes the address and then fails.
+void fail_to_open_addresses(const UsersHome& home) {
+    std::filesystem::create_directories(home.programs());
+    const auto program = home.programs() / "xdg-open";
+    std::ofstream(program) << "#!/bin/sh\necho \"$*\" >> \"" << home.path().native() << "/asked\"\nexit 4\n";
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+}
+
+std::string asked_for(const UsersHome& home) {
+    std::string address;
+    std::getline(std::ifstream(home.path() / "asked"), address);
+    return address;
+}
+
 }  // namespace
 
-TEST_CASE("settings that are none, folders that are gone, a template that is none: the user goes on working") {
+TEST_CASE(
+    "settings that are none, folders that are gone, a template that is none, an address that "
+    "nothing opens: the user goes on working") {
     const UsersHome home;
     keep_nonsense(home);
+    fail_to_open_addresses(home);
     UsersCalc calc(home);
+    calc.keys({"alt+q", "u", "h"});  // the home page, for which there is no program that opens it
+    CHECK(comes_to([&] { return asked_for(home) == to_utf8(product::home_page); }));
+    CHECK_FALSE(calc.sees_window("QOR Plus$"));  // nothing is said
     calc.open_options();
     calc.keys({"ctrl+Page_Down", "ctrl+Page_Down"});
     calc.key("Escape");

@@ -39,8 +39,12 @@ std::string output_of(const std::string& command) {
 
 std::vector<std::string> environment(const UsersHome& home) {
     const std::string path = home.path();
-    return {"HOME=" + path, "XDG_CONFIG_HOME=" + path + "/.config", "XDG_DATA_HOME=" + path + "/.local/share",
-            "LC_ALL=C.UTF-8", "SAL_USE_VCLPLUGIN=gtk3"};
+    return {"HOME=" + path,
+            "XDG_CONFIG_HOME=" + path + "/.config",
+            "XDG_DATA_HOME=" + path + "/.local/share",
+            "PATH=" + home.programs().native() + ":" + std::getenv("PATH"),
+            "LC_ALL=C.UTF-8",
+            "SAL_USE_VCLPLUGIN=gtk3"};
 }
 
 std::vector<std::string> command(const fs::path& file) {

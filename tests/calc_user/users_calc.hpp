@@ -29,6 +29,8 @@ class UsersHome {
     // The text of the settings; empty before there are any.
     std::string settings() const;
     std::string setting(const std::string& key) const;  // its text; "none" where there is none
+    // The folder in which programs are looked for first.
+    std::filesystem::path programs() const { return path() / "bin"; }
     // The folder of the data files.
     std::filesystem::path data() const;
 

@@ -48,7 +48,13 @@ ProgramRun::ProgramRun(std::vector<std::string> command, const fs::path& current
     static int runs = 0;
     mark_ = fmt::format("QORPLUS_TEST_RUN={}-{}", ::getpid(), ++runs);
     environment.push_back(mark_);
-    for (char** entry = environ; *entry; ++entry) environment.emplace_back(*entry);
+    const auto given = environment;
+    for (char** entry = environ; *entry; ++entry) {
+        const std::string_view own = *entry;
+        const auto name = own.substr(0, own.find('=') + 1);
+        const bool replaced = std::ranges::any_of(given, [&](const auto& other) { return other.starts_with(name); });
+        if (!replaced) environment.emplace_back(own);
+    }
     const std::vector<char*> argument_list = pointers(command);
     const std::vector<char*> environment_list = pointers(environment);
     std::array<int, 2> output{};
