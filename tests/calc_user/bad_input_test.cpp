@@ -41,20 +41,6 @@ void keep_nonsense(const UsersHome& home) {
     std::ofstream(home.data() / "Bookmarks.dat") << std::string(100'000, '\xbf');
 }
 
-// A program for addresses that notes the address and then fails.
-void fail_to_open_addresses(const UsersHome& home) {
-    std::filesystem::create_directories(home.programs());
-    const auto program = home.programs() / "xdg-open";
-    std::ofstream(program) << "#!/bin/sh\necho \"$*\" >> \"" << home.path().native() << "/asked\"\nexit 4\n";
-    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
-}
-
-std::string asked_for(const UsersHome& home) {
-    std::string address;
-    std::getline(std::ifstream(home.path() / "asked"), address);
-    return address;
-}
-
 }  // namespace
 
 TEST_CASE(
@@ -62,10 +48,11 @@ TEST_CASE(
     "nothing opens: the user goes on working") {
     const UsersHome home;
     keep_nonsense(home);
-    fail_to_open_addresses(home);
+    constexpr int failed_action = 4;
+    home.note_opened_addresses(failed_action);
     UsersCalc calc(home);
     calc.keys({"alt+q", "u", "h"});  // the home page, for which there is no program that opens it
-    CHECK(comes_to([&] { return asked_for(home) == to_utf8(product::home_page); }));
+    CHECK(comes_to([&] { return home.opened_address() == to_utf8(product::home_page); }));
     CHECK_FALSE(calc.sees_window("QOR Plus$"));  // nothing is said
     calc.open_options();
     calc.keys({"ctrl+Page_Down", "ctrl+Page_Down"});

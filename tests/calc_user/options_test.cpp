@@ -1,11 +1,14 @@
 #include <doctest/doctest.h>
 
+#include <cstdlib>
+
 #include "tests/calc_user/users_calc.hpp"
 
 namespace qor::calc::tests {
 
 TEST_CASE("the menu stands before Help, and by the keyboard alone a setting of each tab is changed and kept") {
     const UsersHome home;
+    home.note_opened_addresses(EXIT_SUCCESS);
     UsersCalc calc(home);
     const auto menu = calc.menu_bar();
     const auto place = std::ranges::find(menu, u"~QOR Plus");
@@ -17,6 +20,9 @@ TEST_CASE("the menu stands before Help, and by the keyboard alone a setting of e
     calc.keys({"Escape", "Escape"});
 
     calc.open_options();
+    calc.keys({"shift+Tab", "space"});  // Help, on its place for this dialog
+    CHECK(comes_to([&] { return home.opened_address().ends_with("/help.html#170125"); }));
+    CAPTURE(home.opened_address());
     calc.key("Escape");
     REQUIRE(calc.loses("QOR Plus: Options"));
     CHECK(home.setting("chkT1AutoAdjWin") == "none");

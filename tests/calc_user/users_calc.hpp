@@ -29,6 +29,9 @@ class UsersHome {
     // The text of the settings; empty before there are any.
     std::string settings() const;
     std::string setting(const std::string& key) const;  // its text; "none" where there is none
+    // Pages and mails go to a program that only notes them, and ends so, instead of to one that shows them.
+    void note_opened_addresses(int exit_code) const;
+    std::string opened_address() const;  // the last one
     // The folder in which programs are looked for first.
     std::filesystem::path programs() const { return path() / "bin"; }
     // The folder of the data files.

@@ -6,9 +6,9 @@
 #include <com/sun/star/awt/XSystemDependentWindowPeer.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/SystemDependent.hpp>
-#include <filesystem>
 
 #include "automation/error.hpp"
+#include "hosts/calc/companion/office/own_folder.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/ref.hpp"
@@ -34,13 +34,6 @@ std::uintptr_t front_window(const css::uno::Reference<css::uno::XComponentContex
     return handle;
 }
 
-// Beside the library that this code is in.
-std::filesystem::path library_path() {
-    Dl_info own{};
-    ::dladdr(reinterpret_cast<const void*>(&front_window), &own);
-    return std::filesystem::path(own.dli_fname ? own.dli_fname : "").replace_filename(library_name);
-}
-
 [[noreturn]] void refuse(std::string_view reason) {
     throw Error(ErrorNumber::host_refused, {}, u"The dialogs cannot be shown: " + from_utf8(reason));
 }
@@ -49,7 +42,7 @@ std::filesystem::path library_path() {
 
 Screen& LoadedScreen::screen() {
     if (loaded_.screen) return *loaded_.screen;
-    void* library = ::dlopen(library_path().c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* library = ::dlopen((own_folder() / library_name).c_str(), RTLD_NOW | RTLD_LOCAL);
     auto* make_screen = library ? reinterpret_cast<MakeScreen*>(::dlsym(library, make_screen_name)) : nullptr;
     if (!make_screen) refuse(::dlerror());
     try {

@@ -9,6 +9,7 @@
 #include "hosts/calc/adapter/office_user.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/bars/bars.hpp"
+#include "hosts/calc/companion/office/own_folder.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/main_thread.hpp"
 #include "hosts/calc/uno/ref.hpp"
@@ -55,7 +56,8 @@ OfficeCompanion::OfficeCompanion(const css::uno::Reference<css::uno::XComponentC
 
 void OfficeCompanion::start() {
     create_data_files(data_folder(product::name));
-    run([&] { companion_->start({.data_folder = data_path(), .help_file = {}}); });
+    const std::u16string help_file = from_utf8((own_folder() / "help.html").native());
+    run([&] { companion_->start({.data_folder = data_path(), .help_file = help_file}); });
     set_timers();
 }
 
