@@ -426,6 +426,8 @@ TEST_CASE_FIXTURE(Sheets, "nothing is deleted while the option is off, and an un
     sheets = {{u"a", {Empty{}}, {u""}}, {u"b", {Empty{}}, {u""}}};
     set_option(u"chkT3AutoDeleteEmptyWorksheets", u"0");
     tidy();
+    settings.values.clear();
+    tidy();
     CHECK(left() == Log{u"a", u"b"});
     set_option(u"chkT3AutoDeleteEmptyWorksheets", u"True");
     CHECK(attempt([&] { call(u"QOptionDeleteEmptyWorksheets"); }) == 9);

@@ -7,6 +7,7 @@
 #include "core/CCom.hpp"
 #include "core/MMain.hpp"
 #include "core/frmOptions.hpp"
+#include "platform/text.hpp"
 #include "screens/script/script_screen.hpp"
 #include "tests/fakes/fake_object.hpp"
 #include "tests/fakes/memory_settings.hpp"
@@ -369,8 +370,15 @@ TEST_CASE_FIXTURE(Dialog, "an alternate template makes a new workbook; without i
 
 TEST_CASE_FIXTURE(Dialog, "texts of any length and script are stored as they are") {
     const std::string text = std::string(100000, 'x') + "\xE2\x82\xAC\xF0\x9F\x98\x80";
-    play(json::array({{{"check", "chkT2AlternateTemplate"}},
-                      {{"set", "txtT2AlternateTemplateFile"}, {"to", text}},
-                      {{"press", "cmdButton(0)"}}}));
-    CHECK(option(u"txtT2AlternateTemplateFile") == std::u16string(100000, u'x') + u"\u20AC\U0001F600");
+    json actions = json::array();
+    for (const auto* box : {"chkT2AlternateTemplate", "chkT2DefaultSave", "chkT2AlwaysCreateBackupUponSave"})
+        actions.push_back({{"check", box}});
+    const std::vector<const char*> texts{"txtT2AlternateTemplateFile", "txtT2DefaultSaveFolder",
+                                         "txtT2AlwaysCreateBackupUponSave"};
+    for (const auto* box : texts) actions.push_back({{"set", box}, {"to", text}});
+    actions.push_back({{"set", "txtT6InsRow"}, {"to", text}});
+    actions.push_back({{"press", "cmdButton(0)"}});
+    play(actions);
+    for (const auto* box : texts) CHECK(option(from_utf8(box)) == std::u16string(100000, u'x') + u"\u20AC\U0001F600");
+    CHECK(option(u"txtT6InsRow") == std::u16string(100000, u'x') + u"\u20AC\U0001F600");
 }

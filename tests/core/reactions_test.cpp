@@ -503,6 +503,8 @@ TEST_CASE_FIXTURE(Backups, "an old backup is replaced, after a question where th
     set_option(u"chkT2WarnBackupExists", u"-1");
     call(u"QAlwCreBacBefSav", u"Plan.v2.xls");
     CHECK(screen.log == Log{u"message Do you wish to replace existing backup?"});
+    CHECK(screen.told.title == u"QOR Plus");
+    CHECK(screen.told.buttons == MessageButtons::yes_no);
     CHECK(done.size() == 1);
     screen.answer = MessageAnswer::yes;
     call(u"QAlwCreBacBefSav", u"Plan.v2.xls");
@@ -522,6 +524,12 @@ TEST_CASE_FIXTURE(Backups, "without the folder, or for a workbook without a file
     CHECK_FALSE(gExcel);
     CHECK(done.empty());
     CHECK(screen.log.empty());
+}
+
+TEST_CASE_FIXTURE(Backups, "no backup is made unless the user wants one") {
+    settings.values.erase({u"Options", u"chkT2AlwaysCreateBackupUponSave"});
+    call(u"QAlwCreBacBefSav", u"Plan.v2.xls");
+    CHECK(done.empty());
 }
 
 TEST_CASE_FIXTURE(Backups, "a backup of no workbook at all is an error") {

@@ -16,6 +16,7 @@ class FakeScreen final : public Screen {
     std::function<void(Form&)> while_modal;
     double twips = 15;
     MessageAnswer answer = MessageAnswer::ok;  // to every message
+    MessageBox told;                           // the last one
     // What the user picks; nothing: cancels.
     std::optional<std::u16string> file;
     std::optional<std::u16string> folder;
@@ -39,6 +40,7 @@ class FakeScreen final : public Screen {
     void progress(Form& form, std::int32_t, std::int32_t) override { log.push_back(u"progress " + form.name()); }
     MessageAnswer message_box(const MessageBox& message) override {
         log.push_back(u"message " + message.text);
+        told = message;
         return answer;
     }
     std::optional<std::u16string> pick_file(Form* over, FileDialog& dialog) override {

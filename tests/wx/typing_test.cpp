@@ -17,6 +17,34 @@ TEST_CASE_FIXTURE(EveryKind, "what is typed goes into the control, and what the 
     });
 }
 
+TEST_CASE_FIXTURE(EveryKind, "a text of any length and script is shown, typed on, and kept where it is not touched") {
+    const std::u16string scripts = u"\u0416\u05D0\u0627\u0E01\u65E5e\u0301\U0001F600\u202Ex";
+    std::u16string endless;
+    while (endless.size() < 200000) endless += scripts;
+    const std::u16string broken{u'a', 0xD83D, u'b', 0};  // half of a pair, and a character that ends texts elsewhere
+    show([&](User& user) {
+        for (TextEntry* entry : std::vector<TextEntry*>{&form.txtName, &form.spnMinutes, &form.txtFolder}) {
+            const std::string name = to_utf8(entry->name());
+            CAPTURE(name);
+            user.on_screen([&] { entry->set_text(scripts); });
+            user.settle();
+            CHECK(user.shown_text(name) == to_utf8(scripts));
+            user.click(name);
+            user.key("End");
+            user.type("7");
+            CHECK((entry->text() == scripts + u"7"));
+            for (const std::u16string& text : {endless, broken}) {
+                user.on_screen([&, own = text] { entry->set_text(own); });
+                user.settle();
+                CHECK((entry->text() == text));
+            }
+            user.on_screen([&] { entry->set_text(u"5"); });
+            user.settle();
+            CHECK(user.shown_text(name) == "5");
+        }
+    });
+}
+
 TEST_CASE_FIXTURE(EveryKind, "a locked text takes no typing") {
     form.txtName.set_locked(true);
     show([&](User& user) {
