@@ -2,6 +2,7 @@
 #include <wx/sizer.h>
 #include <wx/spinbutt.h>
 
+#include "screens/wx/accessible.hpp"
 #include "screens/wx/kinds/kinds.hpp"
 #include "screens/wx/kinds/typing.hpp"
 #include "screens/wx/text.hpp"
@@ -20,6 +21,7 @@ class SpinBoxBinding final : public Binding {
         // The arrows hold no number of their own: the text is the number.
         auto* arrows = new wxSpinButton(window_, wxID_ANY);
         arrows->SetRange(-1, 1);
+        name_for_reader(*arrows, "Up and down");
         const auto step = [this, user_does = place.user_does](int by) { user_does([&] { box_.step(by); }); };
         const auto press = [this, step](wxSpinEvent& event, int by) {
             event.Veto();
