@@ -163,7 +163,8 @@ TEST_CASE_FIXTURE(EveryKind, "every message box offers its buttons, and its defa
           Case{MessageButtons::abort_retry_ignore, 0, MessageAnswer::abort},
           Case{MessageButtons::abort_retry_ignore, 1, MessageAnswer::retry},
           Case{MessageButtons::abort_retry_ignore, 2, MessageAnswer::ignore},
-          Case{MessageButtons::yes_no, 0, MessageAnswer::yes},
+          Case{MessageButtons::yes_no, 0, MessageAnswer::yes}, Case{MessageButtons::yes_no, 1, MessageAnswer::no},
+          Case{MessageButtons::yes_no_cancel, 2, MessageAnswer::cancel},
           Case{MessageButtons::retry_cancel, 0, MessageAnswer::retry}}) {
         MessageAnswer answer{};
         play(
@@ -176,6 +177,22 @@ TEST_CASE_FIXTURE(EveryKind, "every message box offers its buttons, and its defa
                 REQUIRE(user.sees_dialog("Ask"));
                 user.key("Return");
             });
+        CHECK(answer == each.answer);
+    }
+}
+
+TEST_CASE_FIXTURE(EveryKind, "a message that is told to close answers with what says no") {
+    struct Case {
+        MessageButtons buttons;
+        MessageAnswer answer;
+    };
+    for (const Case& each :
+         {Case{MessageButtons::ok, MessageAnswer::ok}, Case{MessageButtons::abort_retry_ignore, MessageAnswer::abort},
+          Case{MessageButtons::yes_no_cancel, MessageAnswer::cancel}, Case{MessageButtons::yes_no, MessageAnswer::no},
+          Case{MessageButtons::retry_cancel, MessageAnswer::cancel}}) {
+        std::optional<MessageAnswer> answer;
+        play([&] { answer = screen.message_box({.title = u"Ask", .text = u"What?", .buttons = each.buttons}); }, close,
+             [](User& user) { REQUIRE(user.sees_dialog("Ask")); });
         CHECK(answer == each.answer);
     }
 }
