@@ -132,8 +132,8 @@ void check_equal(const Object& report, const Object& walked) {
             CAPTURE(column);
             const Variant left = report.get(names::Cells, row, column);
             const Variant right = walked.get(names::Cells, row, column);
-            // Written singly, a text that looks like a number may bring a format of its own.
-            if (column == 9) CHECK(left.get(names::NumberFormat) == right.get(names::NumberFormat));
+            CAPTURE(right.get(names::Formula));
+            CHECK(left.get(names::NumberFormat) == right.get(names::NumberFormat));
             CHECK(left.get(names::HorizontalAlignment) == right.get(names::HorizontalAlignment));
         }
     }

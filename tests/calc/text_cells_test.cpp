@@ -79,7 +79,7 @@ TEST_CASE("an apostrophe makes a text and leaves the cell its format") {
     const Object sheet = calc.add_sheet();
     const Object cells = sheet.get(names::Range, u"A1:A2");
     sheet.get(names::Range, u"A2").put(names::NumberFormat, u"0.00");
-    for (const char16_t* text : {u"'05", u"'TRUE", u"'1/2/2020"}) {
+    for (const char16_t* text : {u"'05", u"'TRUE", u"'1/2/2020", u"'=ROW()", u"'=", u"'-x", u"'@y", u"''z", u"'#N/A"}) {
         cells.put(names::Value, text);
         for (const std::int32_t row : {1, 2}) {
             const Object cell = cells.get(names::Cells, row, 1);
@@ -87,6 +87,9 @@ TEST_CASE("an apostrophe makes a text and leaves the cell its format") {
             CHECK(cell.get(names::NumberFormat) == (row == 1 ? u"General" : u"0.00"));
             cell.put(names::Value, 5.0);
             CHECK(cell.get(names::Value) == 5.0);
+            cell.put(names::Value, text);
+            CHECK(cell.get(names::Value) == std::u16string(text + 1));
+            CHECK(cell.get(names::NumberFormat) == (row == 1 ? u"General" : u"0.00"));
         }
     }
 }

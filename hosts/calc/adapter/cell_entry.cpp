@@ -65,7 +65,8 @@ CellEntry text(const std::u16string& value, const Sheet& sheet) {
     if (value.empty()) return {};
     if (value.starts_with(u'\'')) {
         const std::u16string plain = value.substr(1);
-        return {CellEntry::Way::data, plain, NumberKind::plain, may_be_more_than_text(plain)};
+        const bool seems_more = plain.starts_with(u'=') || may_be_more_than_text(plain);
+        return {CellEntry::Way::data, plain, NumberKind::plain, seems_more};
     }
     if (value.starts_with(u'=') && value.size() > 1) {
         if (!is_closed(value)) throw Error(ErrorNumber::host_refused);

@@ -16,7 +16,7 @@ struct CellEntry {
     Way way = Way::data;
     std::variant<std::monostate, double, std::u16string> content;
     NumberKind kind = NumberKind::plain;  // what a number has to look like
-    bool seems_more = false;  // a text that the office would take for a number and make its cell one of text
+    bool seems_more = false;  // a text that seems a number or a formula: the office would make its cell one of text
 };
 
 // `days_to_null_date` are those from 30 December 1899. Raises 13 for a value that no cell can hold.
