@@ -58,6 +58,11 @@ Sheet Book::active_sheet() const {
     return {*this, view->getActiveSheet()};
 }
 
+// A document that is gone refuses whatever it is asked.
+void Book::require_alive() const {
+    model()->getURL();
+}
+
 std::vector<Ref<css::frame::XController>> Book::controllers() const {
     std::vector<Ref<css::frame::XController>> result;
     const Ref elements{Ref<css::frame::XModel2>(document)->getControllers()};

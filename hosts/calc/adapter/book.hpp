@@ -30,6 +30,8 @@ struct Book {
     // Raises 9 when there is none of that name. Names are compared without regard to case.
     Sheet sheet(std::u16string_view name) const;
     Sheet active_sheet() const;
+    // Raises 1004 when it is closed.
+    void require_alive() const;
     // Its windows in the order of their opening.
     std::vector<Ref<css::frame::XController>> controllers() const;
 };

@@ -32,6 +32,7 @@ class CalcObject : public Dispatch {
     }
     std::vector<Variant> items() final {
         return guarded([&]() -> std::vector<Variant> {
+            if constexpr (requires { self().require_alive(); }) self().require_alive();
             if constexpr (requires(Self & object) { object.elements(); }) {
                 return self().elements();
             } else {

@@ -26,6 +26,7 @@ class DocumentPropertyObject final : public CalcObject<DocumentPropertyObject> {
 
     DocumentPropertyObject(Book book, Which which) : book_(std::move(book)), which_(std::move(which)) {}
 
+    void require_alive() const { book_.require_alive(); }
     static const MemberTable<DocumentPropertyObject>& members() {
         using P = DocumentPropertyObject;
         static const MemberTable<P> table({
@@ -102,6 +103,7 @@ class DocumentPropertiesObject final : public CalcObject<DocumentPropertiesObjec
 
     DocumentPropertiesObject(Book book, bool built_in) : book_(std::move(book)), built_in_(built_in) {}
 
+    void require_alive() const { book_.require_alive(); }
     static const MemberTable<DocumentPropertiesObject>& members() {
         using P = DocumentPropertiesObject;
         static const MemberTable<P> table({

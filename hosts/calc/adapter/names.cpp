@@ -12,6 +12,7 @@ class NameObject final : public CalcObject<NameObject> {
 
     explicit NameObject(DefinedName name) : name_(std::move(name)) {}
 
+    void require_alive() const { name_.text(); }
     static const MemberTable<NameObject>& members() {
         using N = NameObject;
         static const MemberTable<N> table({
@@ -54,6 +55,7 @@ class NamesObject final : public CalcObject<NamesObject> {
 
     explicit NamesObject(Book book) : book_(std::move(book)) {}
 
+    void require_alive() const { book_.require_alive(); }
     static const MemberTable<NamesObject>& members() {
         using N = NamesObject;
         static const MemberTable<N> table({

@@ -15,6 +15,7 @@ class SheetsObject final : public CalcObject<SheetsObject> {
     SheetsObject(Book book, std::optional<std::vector<Sheet>> chosen)
         : book_(std::move(book)), chosen_(std::move(chosen)) {}
 
+    void require_alive() const { book_.require_alive(); }
     static const MemberTable<SheetsObject>& members();
 
     std::vector<Variant> elements() const {

@@ -15,6 +15,9 @@ class WindowObject final : public CalcObject<WindowObject> {
 
     WindowObject(Book book, Controller controller) : book_(std::move(book)), controller_(std::move(controller)) {}
 
+    void require_alive() const {
+        if (!Ref{controller_->getFrame()}) throw Error(ErrorNumber::host_refused);
+    }
     static const MemberTable<WindowObject>& members();
 
     Identity identity() const { return Identity(controller_.reference(), css::uno::UNO_QUERY); }

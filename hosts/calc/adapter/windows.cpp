@@ -34,6 +34,9 @@ class WindowsObject final : public CalcObject<WindowsObject> {
 
     WindowsObject(HostPointer host, std::optional<Book> book) : host_(std::move(host)), book_(std::move(book)) {}
 
+    void require_alive() const {
+        if (book_) book_->require_alive();
+    }
     static const MemberTable<WindowsObject>& members();
 
     std::vector<Variant> elements() const {

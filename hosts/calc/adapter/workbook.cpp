@@ -15,6 +15,7 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
 
     explicit WorkbookObject(Book book) : book_(std::move(book)) {}
 
+    void require_alive() const { book_.require_alive(); }
     static const MemberTable<WorkbookObject>& members();
 
     Identity identity() const { return Identity(book_.document.reference(), css::uno::UNO_QUERY); }
