@@ -5,6 +5,7 @@
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 
 #include "hosts/calc/adapter/area_writer.hpp"
+#include "hosts/calc/adapter/formula_entry.hpp"
 #include "hosts/calc/adapter/transition_entry.hpp"
 #include "hosts/calc/adapter/undo_step.hpp"
 #include "hosts/calc/adapter/write_guard.hpp"
@@ -41,7 +42,8 @@ void write_array_formula(const RangeAreas& areas, const std::u16string& formula)
         const Ref<css::sheet::XArrayFormulaRange> cells(areas.areas.front());
         cells->setArrayFormula(to_uno(std::get<std::u16string>(entry.content)));
         // A refusal is silent.
-        if (cells->getArrayFormula().isEmpty()) throw Error(ErrorNumber::host_refused);
+        if (cells->getArrayFormula().isEmpty() || has_unreadable_formula(areas.areas.front()))
+            throw Error(ErrorNumber::host_refused);
     } catch (...) {
         attempt([&] { guarded([&] { before.put_back(); }); });
         throw;

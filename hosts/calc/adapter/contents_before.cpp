@@ -15,7 +15,8 @@ ContentsBefore::ContentsBefore(const Sheet& sheet, const Cells& cells)
       cells_(cells),
       data_(Ref<css::sheet::XCellRangeData>(cells)->getDataArray()),
       formulas_(formula_places(cells)),
-      formats_(cells) {
+      formats_(cells),
+      rich_texts_(sheet, cells) {
     if (!formulas_.empty()) keep_formulas();
 }
 
@@ -39,6 +40,7 @@ void ContentsBefore::keep_formulas() {
 void ContentsBefore::put_back() const {
     Ref<css::sheet::XCellRangeData>(cells_)->setDataArray(data_);
     formats_.put_back();
+    rich_texts_.put_back();
     if (!formulas_.empty()) put_back_formulas();
 }
 

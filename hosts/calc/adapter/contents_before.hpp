@@ -5,11 +5,11 @@
 
 #include "hosts/calc/adapter/cell_query.hpp"
 #include "hosts/calc/adapter/formats_before.hpp"
+#include "hosts/calc/adapter/rich_texts.hpp"
 
 namespace qor::calc {
 
-// What cells hold and the formats of their numbers, kept to put it back when a change fails halfway. Text that looks
-// different in its parts comes back plain.
+// What cells hold and the formats of their numbers, kept to put it back when a change fails halfway.
 class ContentsBefore {
   public:
     ContentsBefore(const Sheet& sheet, const Cells& cells);
@@ -32,6 +32,7 @@ class ContentsBefore {
     CellPlaces formulas_;
     std::vector<ArrayFormula> arrays_;
     FormatsBefore formats_;
+    RichTexts rich_texts_;
 };
 
 }  // namespace qor::calc

@@ -16,7 +16,7 @@ class FormatsBefore {
   private:
     struct Format {
         Ref<css::uno::XInterface> cells;
-        sal_Int32 key;
+        css::uno::Any key;  // void where it is the style's
     };
     std::vector<Format> formats_;
 };
