@@ -44,12 +44,13 @@ struct Host {
         list.type = 3;
         list.properties[u"Tag"] = u"QOR Plus";
         choose(u"Rent");
+        bars.bars.emplace_back().name = u"Formatting";
         com.put(MemberName(u"QThisWrkBkPath"), folder_path);
         bookmark(u"C:\\Books\\Budget.xls ", u"Costs ", u" B5:D7");
     }
     ~Host() { gExcel = Object(); }
 
-    fakes::FakeControl& list() { return bars.bars.back().controls.front(); }
+    fakes::FakeControl& list() { return std::next(bars.bars.begin())->controls.front(); }
     void choose(const std::u16string& text) { list().properties[u"Text"] = text; }
 
     // What is kept under "Rent".

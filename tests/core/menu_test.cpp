@@ -324,6 +324,11 @@ TEST_CASE_FIXTURE(Menu, "where a toolbar stands is kept, without touching anythi
     CHECK_FALSE(again.contains(u"Top"));
     CHECK_FALSE(again.contains(u"Height"));
     CHECK_FALSE(again.contains(u"Width"));
+    // Without a row of its own it gets any.
+    remove(false);
+    settings.values.erase({u"TBReport", u"RowIndex"});
+    create();
+    CHECK(to_long(bar(u"Report").properties[u"RowIndex"]) == -1);
 }
 
 TEST_CASE_FIXTURE(Menu, "places that are no numbers leave the host's own") {
@@ -358,6 +363,8 @@ TEST_CASE_FIXTURE(Menu, "without the file of bookmarks that is told, and all els
     std::filesystem::remove(folder.path / "Bookmarks.dat");
     create();
     CHECK(screen.log == Log{missing_file(path)});
+    CHECK(screen.told.title == u"QOR Plus");
+    CHECK(screen.told.icon == MessageIcon::critical);
     const FakeControl& list = *std::next(bar(u"Worksheet").controls.begin(), 19);
     CHECK(list.entries.empty());
     CHECK_FALSE(list.properties.contains(u"ListIndex"));
