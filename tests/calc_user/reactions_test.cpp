@@ -11,6 +11,8 @@
 namespace qor::calc::tests {
 namespace {
 
+using namespace std::chrono_literals;
+
 // Whether the comment of C4 on the first worksheet shows.
 bool comment_shows(const UsersCalc& calc) {
     const Ref document{css::frame::Desktop::create(calc.context())->getCurrentComponent()};
@@ -23,11 +25,13 @@ bool comment_shows(const UsersCalc& calc) {
 
 }  // namespace
 
-TEST_CASE("at the first start there are data files, and captions, comments and backups follow the options") {
+TEST_CASE(
+    "at the first start there are data files, and captions, comments, backups and timed saves follow the options") {
     const UsersHome home;
     const auto backups = home.path() / "backups";
     std::filesystem::create_directories(backups);
     std::ofstream(home.settings_file()) << "[Options]\nchkT1AddFullFilePath=-1\nchkT4ViewCellCommentsUponEntry=-1\n"
+                                        << "chkT3SaveWorkbooksEvery=-1\ntxtT3SaveWorkbooksEvery=1\n"
                                         << "chkT2AlwaysCreateBackupUponSave=-1\n"
                                         << "txtT2AlwaysCreateBackupUponSave=" << backups.native() << '\n';
     UsersCalc calc(home);
@@ -49,6 +53,12 @@ TEST_CASE("at the first start there are data files, and captions, comments and b
     calc.click({770, 507});  // the button that keeps it
     CHECK(comes_to([&] { return std::filesystem::exists(backups / "model.xlk"); }));
     CHECK(comes_to([&] { return std::filesystem::file_size(home.model()) != size; }));
+
+    calc.key("ctrl+Home");
+    const auto saved = std::filesystem::last_write_time(home.model());
+    calc.type("1234");
+    calc.key("Return");
+    CHECK(comes_to([&] { return std::filesystem::last_write_time(home.model()) > saved; }, 90s));
 }
 
 }  // namespace qor::calc::tests

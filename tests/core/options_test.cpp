@@ -204,6 +204,17 @@ TEST_CASE_FIXTURE(Dialog, "any change lets OK and Apply be pressed") {
     CHECK_FALSE(form.cmdButton(0).enabled());
 }
 
+TEST_CASE_FIXTURE(Dialog, "a dialog that is unloaded has neither caption nor help") {
+    frmOptions form;
+    form.AppTitle = u"QOR Plus: Options";
+    form.HelpFile = u"help.chm";
+    form.load();
+    CHECK(form.caption() == u"QOR Plus: Options");
+    form.cmdButton(1).press();
+    CHECK(form.AppTitle.empty());
+    CHECK(form.HelpFile.empty());
+}
+
 TEST_CASE_FIXTURE(Dialog, "Cancel and closing the window store nothing") {
     play(R"j([{"check": "chkT1AutoAdjWin"}, {"press": "cmdButton(1)"}])j"_json);
     play(R"j([{"check": "chkT1AutoAdjWin"}])j"_json);
