@@ -94,6 +94,8 @@ TEST_CASE_FIXTURE(Dialogs, "a file that is picked fills the properties") {
     CHECK(screen.offered.title == u"Find");
     CHECK(screen.offered.file_name == u"old.xls");
     CHECK(screen.offered.chosen_kind == 0);
+    dialog.ShowOpen();
+    CHECK(screen.offered.chosen_kind == 1);
 }
 
 TEST_CASE_FIXTURE(Dialogs, "a name without an extension gets the default one; a file to open that is there does not") {
