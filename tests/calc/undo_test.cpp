@@ -64,6 +64,48 @@ TEST_CASE("a step ends when its command fails, and when a workbook is closed in 
     CHECK(sheet.get(names::Range, u"A2").get(names::Value) == Variant(Empty{}));
 }
 
+TEST_CASE("values and formats of scattered cells are undone and redone, though their sheet was away in between") {
+    const Calc calc;
+    const Object sheets = calc.add_book().get(names::Worksheets).object();
+    const auto list = undo_lists().front();
+    list->clear();
+    {
+        const UndoStep step(u"Add");
+        sheets.call(names::Add);
+    }
+    const auto cell = [&](const char16_t* address) { return sheets.get(names::Item, 1).get(names::Range, address); };
+    cell(u"B3").put(names::NumberFormat, u"0%");
+    {
+        const UndoStep step(u"Change");
+        cell(u"A1,B2,D3:D4").put(names::NumberFormat, u"0.00");
+        cell(u"B3,D3:D3").put(names::NumberFormat, u"#,##0");
+        cell(u"C1:C2").put(names::Value, u"x");
+    }
+    const auto check_changed = [&] {
+        CHECK(cell(u"A1").get(names::NumberFormat) == u"0.00");
+        CHECK(cell(u"A2").get(names::NumberFormat) == u"General");
+        CHECK(cell(u"B2").get(names::NumberFormat) == u"0.00");
+        CHECK(cell(u"B3").get(names::NumberFormat) == u"#,##0");
+        CHECK(cell(u"D3").get(names::NumberFormat) == u"#,##0");
+        CHECK(cell(u"D4").get(names::NumberFormat) == u"0.00");
+        CHECK(cell(u"C2").get(names::Value) == u"x");
+    };
+    check_changed();
+    CHECK(list->getAllUndoActionTitles().getLength() == 3);
+    for (int step = 0; step < 3; ++step) list->undo();
+    CHECK(sheets.get(names::Count) == 1);
+    for (int step = 0; step < 3; ++step) list->redo();
+    check_changed();
+    list->undo();
+    CHECK(cell(u"A1:A9").get(names::NumberFormat) == u"General");
+    CHECK(cell(u"D1:D9").get(names::NumberFormat) == u"General");
+    CHECK(cell(u"B3").get(names::NumberFormat) == u"0%");
+    CHECK(cell(u"C2").get(names::Value) == Variant(Empty{}));
+    // What the user does afterwards is recorded as before.
+    cell(u"A1").put(names::Value, 1.0);
+    CHECK(list->getAllUndoActionTitles().getLength() == 3);
+}
+
 TEST_CASE("a comment that is shown or hidden is no step of undo") {
     const Calc calc;
     const Object cell = calc.add_sheet().get(names::Range, u"B2").object();

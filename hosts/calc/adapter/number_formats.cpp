@@ -7,6 +7,7 @@
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 
 #include "hosts/calc/adapter/kept_row_heights.hpp"
+#include "hosts/calc/adapter/scattered_formats.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
@@ -72,7 +73,10 @@ void apply(const Sheet& sheet, const std::vector<KindRun>& changes, NumberKind k
         if (change.kind == kind) runs.push_back(change.cells);
     }
     if (runs.empty()) return;
-    set_property(ranges_at(sheet, runs).whole(), "NumberFormat", number_format_key(sheet.book, code_of(kind)));
+    const std::int32_t key = number_format_key(sheet.book, code_of(kind));
+    const RangeAreas cells = ranges_at(sheet, runs);
+    if (cells.areas.together()) return set_scattered_format(cells, key);
+    set_property(cells.whole(), "NumberFormat", key);
 }
 
 // Which cells of the area, row by row, have a format of dates or money.

@@ -4,7 +4,6 @@
 #include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeReferrer.hpp>
-#include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <optional>
 #include <span>
 
@@ -164,10 +163,15 @@ RangeAreas ranges_at(const Sheet& sheet, const std::vector<Rectangle>& rectangle
     const auto index = static_cast<sal_Int16>(sheet.index());
     for (const Rectangle& area : rectangles)
         addresses.emplace_back(index, area.left, area.top, area.right, area.bottom);
-    const auto all =
-        create_in<css::sheet::XSheetCellRangeContainer>(sheet.book.document, "com.sun.star.sheet.SheetCellRanges");
-    all->addRangeAddresses({addresses.data(), static_cast<sal_Int32>(addresses.size())}, false);
+    const auto all = ranges_in(sheet.book.document, {addresses.data(), static_cast<sal_Int32>(addresses.size())});
     return {sheet, {Ref<css::container::XIndexAccess>(all), rectangles.size()}};
+}
+
+Ref<css::sheet::XSheetCellRangeContainer> ranges_in(const Document& document,
+                                                    const css::uno::Sequence<css::table::CellRangeAddress>& places) {
+    auto all = create_in<css::sheet::XSheetCellRangeContainer>(document, "com.sun.star.sheet.SheetCellRanges");
+    all->addRangeAddresses(places, false);
+    return all;
 }
 
 RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit) {

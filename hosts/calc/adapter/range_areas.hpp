@@ -1,6 +1,7 @@
 #pragma once
 
 #include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/table/CellRangeAddress.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
 #include <initializer_list>
@@ -77,6 +78,9 @@ Cells cells_at(const Sheet& sheet, const Rectangle& rectangle);
 RangeAreas range_at(const Sheet& sheet, const Rectangle& rectangle, RangeUnit unit = RangeUnit::cells);
 // Many at once: one call for all that lie within the sheet.
 RangeAreas ranges_at(const Sheet& sheet, const std::vector<Rectangle>& rectangles);
+// The same as one object of the office.
+Ref<css::sheet::XSheetCellRangeContainer> ranges_in(const Document& document,
+                                                    const css::uno::Sequence<css::table::CellRangeAddress>& places);
 Rectangle rectangle_of(const Cells& cells);
 // The whole rows or columns that the areas lie in, area by area.
 RangeAreas whole_strips(const RangeAreas& areas, RangeUnit unit);

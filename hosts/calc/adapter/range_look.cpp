@@ -15,6 +15,7 @@
 #include "hosts/calc/adapter/kept_row_heights.hpp"
 #include "hosts/calc/adapter/number_formats.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
+#include "hosts/calc/adapter/scattered_formats.hpp"
 
 namespace qor::calc {
 namespace {
@@ -106,7 +107,10 @@ Variant RangeObject::number_format() {
 
 void RangeObject::set_number_format(const std::u16string& format) {
     const KeptRowHeights heights(areas_.sheet.book.document);
-    set_attribute(areas_, "NumberFormat", number_format_key(areas_.sheet.book, format));
+    const std::int32_t key = number_format_key(areas_.sheet.book, format);
+    if (!areas_.areas.together()) return set_attribute(areas_, "NumberFormat", key);
+    before_formatting(areas_);
+    set_scattered_format(areas_, key);
 }
 
 Variant RangeObject::horizontal_alignment() {
