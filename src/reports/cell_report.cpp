@@ -1,29 +1,10 @@
 #include "reports/cell_report.hpp"
 
 #include <algorithm>
-#include <chrono>
+
+#include "reports/pace.hpp"
 
 namespace qor {
-namespace {
-
-// So many cells are read and written at once: with all fields that takes less than a tenth of a second.
-constexpr std::int32_t cells_at_once = 4096;
-
-// Lets so much through as a user can see.
-class Pace {
-  public:
-    bool is_due() {
-        const auto now = std::chrono::steady_clock::now();
-        if (now < next_) return false;
-        next_ = now + std::chrono::milliseconds(50);
-        return true;
-    }
-
-  private:
-    std::chrono::steady_clock::time_point next_;
-};
-
-}  // namespace
 
 CellReport::CellReport(CellReportKind kind, std::span<const std::u16string> headings, Progress progress)
     : kind_(kind),
@@ -38,13 +19,13 @@ void CellReport::add_worksheet(const std::u16string& workbook_name, const std::u
         std::int32_t count = 0;
         attempt([&] { count = source.used_count(); });
         const std::int32_t end = used.row + used.rows;
-        const std::int32_t rows_at_once = std::max(1, cells_at_once / used.columns);
         Pace pace;
-        for (std::int32_t row = used.row; row < end && !sheet_.full() && !columns_.empty(); row += rows_at_once) {
-            source.turn_to(row, std::min(rows_at_once, end - row));
+        for (std::int32_t row = used.row; row < end && !sheet_.full() && !columns_.empty();) {
+            source.turn_to(row, std::clamp(pace.cells() / used.columns, 1, end - row));
             add_rows(source);
-            const std::int32_t done = (source.block().row + source.block().rows - used.row) * used.columns;
-            if (count > 0 && done < count && pace.is_due()) progress_(done, count);
+            row += source.block().rows;
+            const std::int32_t done = (row - used.row) * used.columns;
+            if (pace.is_due() && done < count) progress_(done, count);
         }
         if (count > 0) progress_(count, count);
     });

@@ -33,6 +33,11 @@ std::function<Date()>& wall_clock() {
     return told;
 }
 
+std::function<std::chrono::steady_clock::time_point()>& running_clock() {
+    static std::function<std::chrono::steady_clock::time_point()> told = std::chrono::steady_clock::now;
+    return told;
+}
+
 Date now() {
     return wall_clock()();
 }
