@@ -7,27 +7,19 @@ constexpr int drag_picture = 3;  // of the list's pictures: 1 unchecked, 2 check
 
 }  // namespace
 
-ReportForm::ReportForm(std::u16string_view name) : ToolForm(name) {
+ReportForm::ReportForm(std::u16string_view name) : TreeForm(name) {
+    connect(ctlTreeView, cmdButton);
     treCellInfo.on_picture_click = [this](TreeNode& row) { row.set_image(fields_.toggle(row.key())); };
     treCellInfo.on_mouse_down = [this](const Pointer& pointer) { pointer_down(pointer); };
     treCellInfo.on_mouse_move = [this](const Pointer& pointer) { pointer_move(pointer); };
     treCellInfo.on_drag_over = [this](const Pointer& pointer) { drag_over(pointer); };
     treCellInfo.on_drop = [this](const Pointer&) { drop(); };
-    ctlTreeView.RequestClose = [this](bool close) {
-        if (close) unload();
-    };
-    ctlTreeView.CheckStateChanged = [this](bool any_checked) { cmdButton(0).set_enabled(any_checked); };
-    ctlTreeView.Progress = [this](std::int32_t done, std::int32_t total) {
-        if (complete_) complete_->Percent(done, total);
-    };
-    cmdButton.on_click = [this](int index) { press(index); };
 }
 
 void ReportForm::on_load() {
-    ctlTreeView.LoadExcel();
+    TreeForm::on_load();
     fields_ = all_fields();
     fill_list();
-    cmdButton(0).set_enabled(false);
 }
 
 void ReportForm::on_unload() {
@@ -62,28 +54,9 @@ void ReportForm::drop() {
     fill_list();
 }
 
-void ReportForm::press(int index) {
-    switch (index) {
-        case 0:
-            run();
-            break;
-        case 1:
-            unload();
-            break;
-        default:
-            show_help();
-            break;
-    }
-}
-
-void ReportForm::run() {
-    complete_.emplace();
+void ReportForm::work() {
     hide();
-    complete_->show(this);
-    write_report(fields_.checked_headings());
-    complete_->unload();
-    complete_.reset();
-    unload();
+    with_progress([&] { write_report(fields_.checked_headings()); });
 }
 
 }  // namespace qor

@@ -1,19 +1,15 @@
 #pragma once
 
-#include <optional>
 #include <span>
 
-#include "core/tool_form.hpp"
 #include "reports/report_fields.hpp"
-#include "services/frmComplete.hpp"
-#include "tree/ctlTree.hpp"
-#include "ui/button.hpp"
+#include "tree/tree_form.hpp"
 
 namespace qor {
 
 // The dialog of a report: the list of its fields on the left, the tree of workbooks and worksheets on the right.
 // It knows fields and their order; the tree's member knows the host. Nothing of the user's choice is kept.
-class ReportForm : public ToolForm {
+class ReportForm : public TreeForm {
   public:
     TreeView treCellInfo{*this, u"treCellInfo"};
     ctlTree ctlTreeView{*this, u"ctlTreeView"};
@@ -36,12 +32,10 @@ class ReportForm : public ToolForm {
     void pointer_move(const Pointer& pointer);
     void drag_over(const Pointer& pointer);
     void drop();
-    void press(int index);
-    void run();
+    void work() final;
 
     ReportFields fields_;
     const TreeNode* dragged_ = nullptr;
-    std::optional<frmComplete> complete_;
 };
 
 }  // namespace qor

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "services/ctlSpinner.hpp"
-#include "tools/sheets/tree_form.hpp"
+#include "tree/tree_form.hpp"
 #include "ui/options.hpp"
 
 namespace qor {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/sheets/tree_form.hpp"
+#include "tree/tree_form.hpp"
 #include "ui/options.hpp"
 
 namespace qor {

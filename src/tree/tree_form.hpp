@@ -21,7 +21,7 @@ class TreeForm : public ToolForm {
     // Runs a member of the tree under a window that shows its progress.
     void with_progress(const std::function<void()>& job);
 
-    void on_load() final;
+    void on_load() override;
 
   private:
     void press(int index);

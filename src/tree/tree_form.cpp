@@ -1,4 +1,4 @@
-#include "tools/sheets/tree_form.hpp"
+#include "tree/tree_form.hpp"
 
 namespace qor {
 
