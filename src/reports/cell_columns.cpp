@@ -1,5 +1,6 @@
 #include "reports/cell_columns.hpp"
 
+#include <algorithm>
 #include <array>
 
 #include "runtime/conversion.hpp"
@@ -76,53 +77,44 @@ Variant part_of_date(ReportedCell& cell) {
     return date ? date_part(interval, *date) : 0;
 }
 
-constexpr CellColumn workbook_name{u"WorkbookName", u"Workbook Name",
-                                   [](ReportedCell& cell) -> Variant { return cell.sheet.workbook_name(); }};
-constexpr CellColumn worksheet_name{u"WorksheetName", u"Worksheet Name",
-                                    [](ReportedCell& cell) -> Variant { return cell.sheet.sheet_name(); }};
-constexpr CellColumn address{u"CellAddress", u"Cell Address",
-                             [](ReportedCell& cell) -> Variant { return relative_address(cell.row, cell.column); }};
-constexpr CellColumn row{u"CellRow", u"Cell Row", [](ReportedCell& cell) -> Variant { return cell.row; }};
-constexpr CellColumn column{u"CellColumn", u"Cell Column", [](ReportedCell& cell) -> Variant { return cell.column; }};
-constexpr CellColumn name{u"CellName", u"Cell Name", cell_name};
-constexpr CellColumn data_type{u"CellDataType", u"Cell Data Type",
-                               [](ReportedCell& cell) -> Variant { return type_name(cell.value()); }};
-constexpr CellColumn data_format{u"CellDataFormat", u"Cell Data Format", format_as_text};
-constexpr CellColumn format_value{u"CellFormatValue", u"Cell Format Value",
-                                  [](ReportedCell& cell) -> Variant { return cell.value(); }, number_format};
+constexpr std::array shared_columns{
+    CellColumn{u"WorkbookName", u"Workbook Name",
+               [](ReportedCell& cell) -> Variant { return cell.sheet.workbook_name(); }},
+    CellColumn{u"WorksheetName", u"Worksheet Name",
+               [](ReportedCell& cell) -> Variant { return cell.sheet.sheet_name(); }},
+    CellColumn{u"CellAddress", u"Cell Address",
+               [](ReportedCell& cell) -> Variant { return relative_address(cell.row, cell.column); }},
+    CellColumn{u"CellRow", u"Cell Row", [](ReportedCell& cell) -> Variant { return cell.row; }},
+    CellColumn{u"CellColumn", u"Cell Column", [](ReportedCell& cell) -> Variant { return cell.column; }},
+    CellColumn{u"CellName", u"Cell Name", cell_name},
+    CellColumn{u"CellDataType", u"Cell Data Type",
+               [](ReportedCell& cell) -> Variant { return type_name(cell.value()); }},
+    CellColumn{u"CellDataFormat", u"Cell Data Format", format_as_text},
+    CellColumn{u"CellFormatValue", u"Cell Format Value", [](ReportedCell& cell) -> Variant { return cell.value(); },
+               number_format},
+};
 
-constexpr std::array cell_information{
-    workbook_name,
-    worksheet_name,
-    address,
-    row,
-    column,
-    name,
-    data_type,
-    data_format,
-    format_value,
+template <std::size_t size>
+constexpr auto shared_and(const std::array<CellColumn, size>& own) {
+    std::array<CellColumn, shared_columns.size() + size> all;
+    std::ranges::copy(own, std::ranges::copy(shared_columns, all.begin()).out);
+    return all;
+}
+
+constexpr auto cell_information = shared_and(std::array{
     CellColumn{u"CellFormula", u"Cell Formula", formula_with_braces_of_arrays},
     CellColumn{u"CellValue", u"Cell Value",
                [](ReportedCell& cell) -> Variant { return as_text(to_text(cell.value())); }},
     CellColumn{u"CellComments", u"Cell Comments", comment},
-};
+});
 
-constexpr std::array date_review{
-    workbook_name,
-    worksheet_name,
-    address,
-    row,
-    column,
-    name,
-    data_type,
-    data_format,
-    format_value,
+constexpr auto date_review = shared_and(std::array{
     CellColumn{u"CellFormula", u"Cell Formula", formula_as_it_begins},
     CellColumn{u"CellValue", u"Cell Value", serial_as_text},
     CellColumn{u"CellMonth", u"Cell Month", part_of_date<month>},
     CellColumn{u"CellDay", u"Cell Day", part_of_date<day>},
     CellColumn{u"CellYear", u"Cell Year", part_of_date<year>},
-};
+});
 
 }  // namespace
 
