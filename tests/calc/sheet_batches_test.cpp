@@ -1,3 +1,7 @@
+#include <com/sun/star/drawing/XShape.hpp>
+
+#include "hosts/calc/adapter/book.hpp"
+#include "hosts/calc/uno/service.hpp"
 #include "screens/script/action.hpp"
 #include "tests/calc/sheet_names.hpp"
 #include "tests/calc/tool_run.hpp"
@@ -63,6 +67,19 @@ TEST_CASE_FIXTURE(Batches, "empty worksheets are deleted, those that hold only b
     CHECK(shown["progress"] == json{7, 7});
     CHECK(shown["forms"][0]["helpId"] == 170090);
     CHECK(application.get(names::DisplayAlerts) == true);
+}
+
+TEST_CASE_FIXTURE(Batches, "a worksheet on which something is drawn is kept, but blanks go from its cells") {
+    give_sheets(plan, {u"Drawing", u"Comment", u"Nothing"});
+    const auto host = std::make_shared<Host>(office_context());
+    const Sheet drawing = book_named(host, u"plan.ods").sheet(u"Drawing");
+    const auto shape = create_in<css::drawing::XShape>(drawing.book.document, "com.sun.star.drawing.RectangleShape");
+    drawing.page()->add(shape.reference());
+    sheet(plan, u"Drawing").get(names::Range, u"A1:B2").put(names::Value, u" ");
+    sheet(plan, u"Comment").get(names::Range, u"C3").call(MemberName(u"AddComment"), u"a note");
+    run(u"UTDelEmpWor", {"plan.ods"});
+    CHECK(sheet_names(plan) == "Drawing/Comment/");
+    CHECK(sheet(plan, u"Drawing").get(names::Range, u"B2").get(names::Value) == Variant(Empty{}));
 }
 
 TEST_CASE_FIXTURE(Batches, "the only worksheet is kept, even if it is empty, and what is not checked stays") {
