@@ -66,4 +66,20 @@ void clear_undo() {
     undo_list()->clear();
 }
 
+UnchangedDocument::UnchangedDocument() : document_(newest()) {
+    Ref<css::frame::XModel>(document_)->lockControllers();
+}
+UnchangedDocument::~UnchangedDocument() {
+    Ref<css::frame::XModel>(document_)->unlockControllers();
+}
+
+void UnchangedDocument::check() {
+    constexpr int every = 10;
+    if (++asked_ % every == 0) check_now();
+}
+
+void UnchangedDocument::check_now() const {
+    CHECK((whole_document() == before_));
+}
+
 }  // namespace qor::calc::tests

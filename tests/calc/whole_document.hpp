@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "hosts/calc/adapter/host.hpp"
 #include "tests/calc/fixture.hpp"
 
 namespace qor::calc::tests {
@@ -14,5 +15,23 @@ std::vector<std::string> undo_titles();
 void undo();
 void redo();
 void clear_undo();
+
+// Holds the newest workbook against what it is now, and does not draw it meanwhile.
+class UnchangedDocument {
+  public:
+    UnchangedDocument();
+    ~UnchangedDocument();
+    UnchangedDocument(const UnchangedDocument&) = delete;
+    UnchangedDocument& operator=(const UnchangedDocument&) = delete;
+
+    // Looks every tenth time, since that takes long: what something has left behind is still there then.
+    void check();
+    void check_now() const;
+
+  private:
+    std::string before_ = whole_document();
+    int asked_ = 0;
+    Document document_;
+};
 
 }  // namespace qor::calc::tests
