@@ -1,3 +1,5 @@
+#include <malloc.h>
+
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
@@ -63,7 +65,8 @@ void fill_with_some_dates(const ToolWorkload& workload, std::int32_t rows) {
 using Fill = void (*)(const ToolWorkload& workload, std::int32_t rows);
 using Walk = void (*)(const Object& application, const WalkedSheet& source, const Object& report);
 
-// The most memory that the process has used since it was last asked to count anew, in KB.
+// The most memory that the process has used since it was last asked to count anew, in KB. What was freed before goes
+// back to the system then: it would be used again without being counted.
 long peak_memory() {
     std::ifstream status("/proc/self/status");
     for (std::string word; status >> word;) {
@@ -72,6 +75,7 @@ long peak_memory() {
     return 0;
 }
 void count_memory_anew() {
+    ::malloc_trim(0);
     std::ofstream("/proc/self/clear_refs") << 5;
 }
 
