@@ -32,7 +32,7 @@ Visible=perhaps
 
 void keep_nonsense(const UsersHome& home) {
     const auto no_template = home.path() / "none.xlt";
-    std::ofstream(no_template, std::ios::binary) << std::string("\x50\x4b\x03\x04 no workbook at all", 25);
+    std::ofstream(no_template, std::ios::binary) << "\x50\x4b\x03\x04 no workbook at all";
     std::string text = nonsense;
     const std::string mark = "@TEMPLATE@";
     text.replace(text.find(mark), mark.size(), no_template.native());

@@ -93,8 +93,8 @@ TEST_CASE("every caption of the options stands as it is known") {
         {"cmdButton(3)", "Help"},
     };
     CHECK(captions.size() == known.size());
-    for (const auto& [name, caption] : known) {
-        CAPTURE(name);
-        CHECK(captions[name] == caption);
+    for (const auto& control : known) {
+        CAPTURE(control.first);
+        CHECK(captions[control.first] == control.second);
     }
 }

@@ -116,8 +116,8 @@ TEST_CASE_FIXTURE(Product, "every form has a layout with exactly its controls, a
         CHECK_NOTHROW(std::make_shared<wx::FormWindow>(*form, wx::product_layouts(), nullptr));
         names.emplace(form->layout());
     }
-    for (const auto& [name, layout] : wx::product_layouts())
-        CHECK_MESSAGE(names.contains(std::u16string(name)), to_utf8(name));
+    for (const auto& layout : wx::product_layouts())
+        CHECK_MESSAGE(names.contains(std::u16string(layout.first)), to_utf8(layout.first));
 }
 
 TEST_CASE_FIXTURE(Product,
