@@ -10,18 +10,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::int32_t first_cells = 1024;
-constexpr std::int32_t fewest_cells = 16;
+// Each turn has its own costs, so that fewer would make the job slower for all.
+constexpr std::int32_t fewest_cells = 1024;
 constexpr std::int32_t most_cells = 4096;
 
 // What takes up to this is told at the first or the second time, and so within a tenth of a second.
 constexpr auto between_two_times = 50ms;
-constexpr auto too_long = 80ms;
-constexpr auto too_short = 20ms;
+constexpr auto too_long = 90ms;
+constexpr auto too_short = 40ms;
 
 }  // namespace
 
-Pace::Pace() : cells_(first_cells), done_(running_clock()()), told_(done_) {}
+Pace::Pace() : cells_(fewest_cells), done_(running_clock()()), told_(done_) {}
 
 bool Pace::is_due() {
     const Time now = running_clock()();

@@ -5,8 +5,8 @@
 
 namespace qor {
 
-// How many cells a long job does at once: as many as take so long that the user hears of it at least ten times a
-// second, and that few only as the host's slowness asks for.
+// How many cells a long job does at once: the more the cheaper, but not more than let the user hear of it ten times a
+// second.
 class Pace {
   public:
     Pace();
