@@ -98,6 +98,25 @@ TEST_CASE_FIXTURE(Forms, "OK works under a progress window and closes; progress 
     CHECK(log_of_ok<frmSpChk>() == Lines{u"unload frmSpChk"});
 }
 
+TEST_CASE_FIXTURE(Forms, "spelling is checked once for each window, of whole worksheets or of their cells alone") {
+    const auto spell = [&](bool cells_only) {
+        done.clear();
+        frmSpChk dialog;
+        load(dialog);
+        for (const char16_t* key : {u"Book2*Draft", u"plan.xls:1*Loan", u"plan.xls:2*Loan"}) check(dialog, key);
+        if (cells_only) dialog.chkIgnoreHF.set_checked(true);
+        dialog.cmdButton(0).press();
+        return done;
+    };
+    CHECK(spell(false) == Lines{u"Loan spelling", u"Loan spelling", u"Draft spelling"});
+    CHECK(spell(true) == Lines{u"Loan cells spelling", u"Loan cells spelling", u"Draft cells spelling"});
+    int asked = 0;
+    host_log.refuses = [&](std::u16string_view, std::u16string_view member, Access) {
+        return member == u"CheckSpelling" && ++asked == 1;
+    };
+    CHECK(spell(false) == Lines{u"Loan spelling", u"Draft spelling"});
+}
+
 TEST_CASE_FIXTURE(Forms, "the Navigator's buttons need nothing checked, and OK does nothing more than close") {
     for (const int button : {0, 1}) {
         frmNav dialog;

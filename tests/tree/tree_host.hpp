@@ -141,10 +141,14 @@ struct TreeHost {
             for (const auto& [member, word] : {std::pair{names::Delete, u" delete"},
                                                {names::PrintOut, u" print"},
                                                {names::Activate, u" activate"},
+                                               {names::CheckSpelling, u" spelling"},
                                                {names::Move, u" move"},
                                                {names::Copy, u" copy"}}) {
                 fake.answers(member, writes(name + word));
             }
+            fake.holds(names::Cells, make(u"Range", [&](fakes::FakeObject& cells) {
+                           cells.answers(names::CheckSpelling, writes(name + u" cells spelling"));
+                       }));
         });
     }
     Object make_window(const std::u16string& caption) {
