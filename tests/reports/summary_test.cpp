@@ -47,15 +47,16 @@ struct Summary : ReportHost {
 
     std::vector<std::u16string> all_headings() { return ReportFields(worksheet_summary_columns()).checked_headings(); }
 
-    // The report on every sheet of the tree.
-    void report(const std::vector<std::u16string>& headings) {
+    // The report with every node of the tree checked, or those of these keys.
+    void report(const std::vector<std::u16string>& headings, const std::vector<std::u16string>& keys = {}) {
         progress.clear();
         frmTree form(screen);
         form.ctlTreeView.Progress = [&](std::int32_t done, std::int32_t total) { progress.emplace_back(done, total); };
         const std::size_t failing = std::exchange(log.failing_call, 0);
         form.ctlTreeView.LoadExcel();
         for (std::size_t index = 1; index <= form.ctlTreeView.treQOR.count(); ++index) {
-            form.ctlTreeView.treQOR.node(index).set_image(2);
+            TreeNode& node = form.ctlTreeView.treQOR.node(index);
+            if (keys.empty() || std::ranges::find(keys, node.key()) != keys.end()) node.set_image(ctlTree::checked);
         }
         log.calls = 0;
         log.failing_call = failing;
@@ -105,6 +106,18 @@ TEST_CASE_FIXTURE(Summary, "the title block, the headings and a row for each che
     }
     CHECK(value(8, 1).is_missing());
     CHECK(progress == std::vector<std::pair<std::int32_t, std::int32_t>>{{1, 8}, {1, 1}});
+}
+
+TEST_CASE_FIXTURE(Summary, "only a worksheet's own box counts, not that of its workbook") {
+    add_sheet(u"One", 1.0, u"1");
+    add_sheet(u"Two", 2.0, u"2");
+    start();
+    report({u"Worksheet Name"}, {u"ROOT", u"model.xls"});
+    CHECK(value(6, 1).is_missing());
+    CHECK(progress.empty());
+    report({u"Worksheet Name"}, {u"model.xls*Two"});
+    CHECK(same(value(6, 1), u"Two"));
+    CHECK(value(7, 1).is_missing());
 }
 
 TEST_CASE_FIXTURE(Summary, "the ratio is rounded to six places and 0 without formulas") {
