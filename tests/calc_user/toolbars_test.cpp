@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include <cstdlib>
+#include <fstream>
 
 #include "tests/calc_user/users_calc.hpp"
 
@@ -15,9 +16,22 @@ css::awt::Point middle_of(const UsersCalc& calc, std::u16string_view button) {
     return *place;
 }
 
+// What Calc would go on knowing of the add-in's toolbars without it: entries that are not struck out.
+std::vector<std::string> kept_toolbars(const UsersHome& home) {
+    std::vector<std::string> kept;
+    std::ifstream lines(home.registry());
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find("custom_qorplus") != line.npos && line.find("oor:op=\"remove\"") == line.npos)
+            kept.push_back(line);
+    }
+    return kept;
+}
+
 }  // namespace
 
-TEST_CASE("a button opens its dialog, and a toolbar that was moved stands there again when Calc is started again") {
+TEST_CASE(
+    "a button opens its dialog, and a toolbar that was moved stands there again when Calc is started again; "
+    "Calc keeps nothing of it") {
     const UsersHome home;
     css::awt::Point before;
     css::awt::Point moved;
@@ -47,6 +61,7 @@ TEST_CASE("a button opens its dialog, and a toolbar that was moved stands there 
     CHECK(std::abs(place.Y - moved.Y) <= 3);
     again.close_window();
     CHECK(again.ends());
+    CHECK(kept_toolbars(home).empty());
 }
 
 }  // namespace qor::calc::tests

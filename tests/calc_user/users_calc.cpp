@@ -65,14 +65,17 @@ bool comes_to(const std::function<bool()>& condition, std::chrono::seconds patie
 
 UsersHome::UsersHome() {
     fs::copy_file(fs::path(QOR_EXAMPLES) / "model.xlsx", model());
-    const fs::path profile = path() / own_folder / "libreoffice/user";
-    fs::create_directories(profile);
-    std::ofstream(profile / "registrymodifications.xcu") << R"(<?xml version="1.0" encoding="UTF-8"?>
+    fs::create_directories(profile());
+    std::ofstream(registry()) << R"(<?xml version="1.0" encoding="UTF-8"?>
 <oor:items xmlns:oor="http://openoffice.org/2001/registry">
 <item oor:path="/org.openoffice.Setup/Office"><prop oor:name="ooSetupConnectionURL" oor:op="fuse"><value>pipe,name=)"
-                                                         << pipe() << R"(;urp;</value></prop></item>
+                              << pipe() << R"(;urp;</value></prop></item>
 </oor:items>
 )";
+}
+
+fs::path UsersHome::profile() const {
+    return path() / own_folder / "libreoffice/user";
 }
 
 fs::path UsersHome::settings_file() const {

@@ -34,6 +34,9 @@ class UsersHome {
     std::string opened_address() const;  // the last one
     // The folder in which programs are looked for first.
     std::filesystem::path programs() const { return path() / "bin"; }
+    // What Calc itself keeps, and the file of its changed settings there.
+    std::filesystem::path profile() const;
+    std::filesystem::path registry() const { return profile() / "registrymodifications.xcu"; }
     // The folder of the data files.
     std::filesystem::path data() const;
 
