@@ -1,6 +1,9 @@
 # The few kinds of target that the project has. A folder says which kind it is and what it uses;
 # its sources are the .cpp files that lie in it.
 
+# What only tests run is compiled for a quick build: without optimization, and sanitized for addresses alone.
+define_property(TARGET PROPERTY QOR_TEST_CODE INITIALIZE_FROM_VARIABLE QOR_TEST_CODE)
+
 add_library(qor_options INTERFACE)
 target_compile_options(qor_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
@@ -9,8 +12,8 @@ target_compile_options(qor_options INTERFACE
 target_include_directories(qor_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
 if(QOR_SANITIZE)
   # g++ 12 takes the sanitizers' own code for uses of uninitialized values.
-  target_compile_options(qor_options INTERFACE -fsanitize=address,undefined -fno-sanitize=vptr
-    -fno-sanitize-recover=undefined -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+  target_compile_options(qor_options INTERFACE -fsanitize=address -fno-omit-frame-pointer -Wno-maybe-uninitialized
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QOR_TEST_CODE>>>:-fsanitize=undefined$<SEMICOLON>-fno-sanitize=vptr$<SEMICOLON>-fno-sanitize-recover=undefined>)
   target_link_options(qor_options INTERFACE -fsanitize=address,undefined)
   execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so OUTPUT_VARIABLE sanitizer
     OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -38,10 +41,7 @@ endif()
 function(qor_test name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
-  add_executable(test_${name} ${sources} ${PROJECT_SOURCE_DIR}/tests/main.cpp)
-  target_link_libraries(test_${name} PRIVATE qor_options ${ARG_DEPENDS})
-  if(WIN32)
-    target_link_libraries(test_${name} PRIVATE qor_doctest)
-  endif()
+  add_executable(test_${name} ${sources})
+  target_link_libraries(test_${name} PRIVATE qor_options qor_test_main ${ARG_DEPENDS})
   add_test(NAME ${name} COMMAND test_${name})
 endfunction()

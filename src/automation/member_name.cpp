@@ -5,6 +5,8 @@
 #include <string>
 #include <unordered_map>
 
+#include "automation/member_names.hpp"
+
 namespace qor {
 namespace {
 
@@ -21,6 +23,13 @@ struct Names {
     std::mutex mutex;
     std::unordered_map<std::u16string, std::size_t> ids_by_folded_text;
     std::deque<std::u16string> spellings;  // by number; none ever moves
+
+    Names() {
+        for (const MemberName& name : names::all) {
+            ids_by_folded_text.emplace(folded(name.text()), spellings.size());
+            spellings.emplace_back(name.text());
+        }
+    }
 };
 
 Names& all_names() {

@@ -15,13 +15,15 @@ class MemberName {
     static std::optional<MemberName> known(std::u16string_view text);
     // The name that carries that number.
     static std::optional<MemberName> numbered(std::size_t id);
+    // A name of the compiler's own, whose number is its place in names::all.
+    static consteval MemberName spelled(std::u16string_view text, std::size_t id) { return {text, id}; }
 
-    std::u16string_view text() const noexcept { return text_; }
-    std::size_t id() const noexcept { return id_; }
-    bool operator==(const MemberName& other) const noexcept { return id_ == other.id_; }
+    constexpr std::u16string_view text() const noexcept { return text_; }
+    constexpr std::size_t id() const noexcept { return id_; }
+    constexpr bool operator==(const MemberName& other) const noexcept { return id_ == other.id_; }
 
   private:
-    MemberName(std::u16string_view text, std::size_t id) noexcept : text_(text), id_(id) {}
+    constexpr MemberName(std::u16string_view text, std::size_t id) noexcept : text_(text), id_(id) {}
 
     std::u16string_view text_;  // in the spelling that came first; lives as long as the process
     std::size_t id_;

@@ -1,196 +1,216 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+
 #include "automation/member_name.hpp"
 
-// The members of the spreadsheet's object model that this product uses, each spelled once.
+// The members of the spreadsheet's object model that this product uses, each spelled once. They are constants of the
+// compiler: no file that names one runs or holds code for the others.
+// clang-format off
+#define QOR_MEMBER_NAMES(NAME) \
+    NAME(Activate) \
+    NAME(ActiveCell) \
+    NAME(ActiveChart) \
+    NAME(ActiveSheet) \
+    NAME(ActiveWindow) \
+    NAME(ActiveWorkbook) \
+    NAME(Add) \
+    NAME(AddItem) \
+    NAME(Address) \
+    NAME(AddressLocal) \
+    NAME(After) \
+    NAME(Application) \
+    NAME(Areas) \
+    NAME(Arrange) \
+    NAME(ArrangeStyle) \
+    NAME(Before) \
+    NAME(BeginGroup) \
+    NAME(Bold) \
+    NAME(Borders) \
+    NAME(BuiltinDocumentProperties) \
+    NAME(Calculate) \
+    NAME(Caption) \
+    NAME(Category) \
+    NAME(Cells) \
+    NAME(Chart) \
+    NAME(ChartObjects) \
+    NAME(CheckSpelling) \
+    NAME(Clear) \
+    NAME(ClearContents) \
+    NAME(Close) \
+    NAME(Color) \
+    NAME(ColorIndex) \
+    NAME(Column) \
+    NAME(ColumnAbsolute) \
+    NAME(Columns) \
+    NAME(ColumnWidth) \
+    NAME(CommandBars) \
+    NAME(Comment) \
+    NAME(Comments) \
+    NAME(Controls) \
+    NAME(ConvertFormula) \
+    NAME(Copy) \
+    NAME(Count) \
+    NAME(CountA) \
+    NAME(CustomDocumentProperties) \
+    NAME(Default) \
+    NAME(Delete) \
+    NAME(Description) \
+    NAME(Destination) \
+    NAME(DisplayAlerts) \
+    NAME(DisplayRecentFiles) \
+    NAME(DropDownWidth) \
+    NAME(EntireColumn) \
+    NAME(EntireRow) \
+    NAME(FileFilter) \
+    NAME(FileFormat) \
+    NAME(Filename) \
+    NAME(Find) \
+    NAME(FindControl) \
+    NAME(Font) \
+    NAME(FormatConditions) \
+    NAME(Formula) \
+    NAME(Formula1) \
+    NAME(Formula2) \
+    NAME(FormulaArray) \
+    NAME(FormulaHidden) \
+    NAME(FullName) \
+    NAME(GetSaveAsFilename) \
+    NAME(HasArray) \
+    NAME(HasFormula) \
+    NAME(HasMenu) \
+    NAME(HasShortcutKey) \
+    NAME(Height) \
+    NAME(Help) \
+    NAME(HelpContextID) \
+    NAME(HelpFile) \
+    NAME(HorizontalAlignment) \
+    NAME(Hyperlinks) \
+    NAME(Id) \
+    NAME(Index) \
+    NAME(InitialFilename) \
+    NAME(InputBox) \
+    NAME(Insert) \
+    NAME(Interior) \
+    NAME(IsLogical) \
+    NAME(Italic) \
+    NAME(Item) \
+    NAME(Left) \
+    NAME(LineStyle) \
+    NAME(LinkSource) \
+    NAME(LinkToContent) \
+    NAME(List) \
+    NAME(ListCount) \
+    NAME(ListIndex) \
+    NAME(Locked) \
+    NAME(LookAt) \
+    NAME(LookIn) \
+    NAME(Macro) \
+    NAME(MacroOptions) \
+    NAME(Max) \
+    NAME(Maximum) \
+    NAME(MenuText) \
+    NAME(MergeCells) \
+    NAME(Move) \
+    NAME(Name) \
+    NAME(Names) \
+    NAME(NumberFormat) \
+    NAME(OLEObjects) \
+    NAME(OLEType) \
+    NAME(OnAction) \
+    NAME(Open) \
+    NAME(Operator) \
+    NAME(Parent) \
+    NAME(Password) \
+    NAME(Paste) \
+    NAME(PasteFace) \
+    NAME(PasteSpecial) \
+    NAME(Path) \
+    NAME(Position) \
+    NAME(PrintOut) \
+    NAME(Prompt) \
+    NAME(Proper) \
+    NAME(Protect) \
+    NAME(ProtectContents) \
+    NAME(ProtectDrawingObjects) \
+    NAME(ProtectScenarios) \
+    NAME(Range) \
+    NAME(ReadOnly) \
+    NAME(RecentFiles) \
+    NAME(ReferenceStyle) \
+    NAME(RefersTo) \
+    NAME(RefersToRange) \
+    NAME(RelativeTo) \
+    NAME(RemoveItem) \
+    NAME(Replace) \
+    NAME(RoundDown) \
+    NAME(Row) \
+    NAME(RowAbsolute) \
+    NAME(RowHeight) \
+    NAME(RowIndex) \
+    NAME(Rows) \
+    NAME(Save) \
+    NAME(SaveAs) \
+    NAME(SaveChanges) \
+    NAME(SaveCopyAs) \
+    NAME(Saved) \
+    NAME(ScreenUpdating) \
+    NAME(ScrollArea) \
+    NAME(SearchDirection) \
+    NAME(SearchOrder) \
+    NAME(Select) \
+    NAME(SelectedSheets) \
+    NAME(Selection) \
+    NAME(SeriesCollection) \
+    NAME(Shapes) \
+    NAME(Sheets) \
+    NAME(ShortcutKey) \
+    NAME(Size) \
+    NAME(SourceName) \
+    NAME(SpecialCells) \
+    NAME(StatusBar) \
+    NAME(Tag) \
+    NAME(Temporary) \
+    NAME(Text) \
+    NAME(ThisWorkbook) \
+    NAME(Title) \
+    NAME(ToolTipText) \
+    NAME(Top) \
+    NAME(TransitionFormEntry) \
+    NAME(Type) \
+    NAME(Unprotect) \
+    NAME(UsedRange) \
+    NAME(UserName) \
+    NAME(Value) \
+    NAME(Value2) \
+    NAME(Version) \
+    NAME(Visible) \
+    NAME(Weight) \
+    NAME(What) \
+    NAME(Width) \
+    NAME(Window) \
+    NAME(Windows) \
+    NAME(Workbooks) \
+    NAME(Worksheet) \
+    NAME(WorksheetFunction) \
+    NAME(Worksheets) \
+    NAME(WrapText)
+// clang-format on
+
 namespace qor::names {
 
-inline const MemberName Activate{u"Activate"};
-inline const MemberName ActiveCell{u"ActiveCell"};
-inline const MemberName ActiveChart{u"ActiveChart"};
-inline const MemberName ActiveSheet{u"ActiveSheet"};
-inline const MemberName ActiveWindow{u"ActiveWindow"};
-inline const MemberName ActiveWorkbook{u"ActiveWorkbook"};
-inline const MemberName Add{u"Add"};
-inline const MemberName AddItem{u"AddItem"};
-inline const MemberName Address{u"Address"};
-inline const MemberName AddressLocal{u"AddressLocal"};
-inline const MemberName After{u"After"};
-inline const MemberName Application{u"Application"};
-inline const MemberName Areas{u"Areas"};
-inline const MemberName Arrange{u"Arrange"};
-inline const MemberName ArrangeStyle{u"ArrangeStyle"};
-inline const MemberName Before{u"Before"};
-inline const MemberName BeginGroup{u"BeginGroup"};
-inline const MemberName Bold{u"Bold"};
-inline const MemberName Borders{u"Borders"};
-inline const MemberName BuiltinDocumentProperties{u"BuiltinDocumentProperties"};
-inline const MemberName Calculate{u"Calculate"};
-inline const MemberName Caption{u"Caption"};
-inline const MemberName Category{u"Category"};
-inline const MemberName Cells{u"Cells"};
-inline const MemberName Chart{u"Chart"};
-inline const MemberName ChartObjects{u"ChartObjects"};
-inline const MemberName CheckSpelling{u"CheckSpelling"};
-inline const MemberName Clear{u"Clear"};
-inline const MemberName ClearContents{u"ClearContents"};
-inline const MemberName Close{u"Close"};
-inline const MemberName Color{u"Color"};
-inline const MemberName ColorIndex{u"ColorIndex"};
-inline const MemberName Column{u"Column"};
-inline const MemberName ColumnAbsolute{u"ColumnAbsolute"};
-inline const MemberName Columns{u"Columns"};
-inline const MemberName ColumnWidth{u"ColumnWidth"};
-inline const MemberName CommandBars{u"CommandBars"};
-inline const MemberName Comment{u"Comment"};
-inline const MemberName Comments{u"Comments"};
-inline const MemberName Controls{u"Controls"};
-inline const MemberName ConvertFormula{u"ConvertFormula"};
-inline const MemberName Copy{u"Copy"};
-inline const MemberName Count{u"Count"};
-inline const MemberName CountA{u"CountA"};
-inline const MemberName CustomDocumentProperties{u"CustomDocumentProperties"};
-inline const MemberName Default{u"Default"};
-inline const MemberName Delete{u"Delete"};
-inline const MemberName Description{u"Description"};
-inline const MemberName Destination{u"Destination"};
-inline const MemberName DisplayAlerts{u"DisplayAlerts"};
-inline const MemberName DisplayRecentFiles{u"DisplayRecentFiles"};
-inline const MemberName DropDownWidth{u"DropDownWidth"};
-inline const MemberName EntireColumn{u"EntireColumn"};
-inline const MemberName EntireRow{u"EntireRow"};
-inline const MemberName FileFilter{u"FileFilter"};
-inline const MemberName FileFormat{u"FileFormat"};
-inline const MemberName Filename{u"Filename"};
-inline const MemberName Find{u"Find"};
-inline const MemberName FindControl{u"FindControl"};
-inline const MemberName Font{u"Font"};
-inline const MemberName FormatConditions{u"FormatConditions"};
-inline const MemberName Formula{u"Formula"};
-inline const MemberName Formula1{u"Formula1"};
-inline const MemberName Formula2{u"Formula2"};
-inline const MemberName FormulaArray{u"FormulaArray"};
-inline const MemberName FormulaHidden{u"FormulaHidden"};
-inline const MemberName FullName{u"FullName"};
-inline const MemberName GetSaveAsFilename{u"GetSaveAsFilename"};
-inline const MemberName HasArray{u"HasArray"};
-inline const MemberName HasFormula{u"HasFormula"};
-inline const MemberName HasMenu{u"HasMenu"};
-inline const MemberName HasShortcutKey{u"HasShortcutKey"};
-inline const MemberName Height{u"Height"};
-inline const MemberName Help{u"Help"};
-inline const MemberName HelpContextID{u"HelpContextID"};
-inline const MemberName HelpFile{u"HelpFile"};
-inline const MemberName HorizontalAlignment{u"HorizontalAlignment"};
-inline const MemberName Hyperlinks{u"Hyperlinks"};
-inline const MemberName Id{u"Id"};
-inline const MemberName Index{u"Index"};
-inline const MemberName InitialFilename{u"InitialFilename"};
-inline const MemberName InputBox{u"InputBox"};
-inline const MemberName Insert{u"Insert"};
-inline const MemberName Interior{u"Interior"};
-inline const MemberName IsLogical{u"IsLogical"};
-inline const MemberName Italic{u"Italic"};
-inline const MemberName Item{u"Item"};
-inline const MemberName Left{u"Left"};
-inline const MemberName LineStyle{u"LineStyle"};
-inline const MemberName LinkSource{u"LinkSource"};
-inline const MemberName LinkToContent{u"LinkToContent"};
-inline const MemberName List{u"List"};
-inline const MemberName ListCount{u"ListCount"};
-inline const MemberName ListIndex{u"ListIndex"};
-inline const MemberName Locked{u"Locked"};
-inline const MemberName LookAt{u"LookAt"};
-inline const MemberName LookIn{u"LookIn"};
-inline const MemberName Macro{u"Macro"};
-inline const MemberName MacroOptions{u"MacroOptions"};
-inline const MemberName Max{u"Max"};
-inline const MemberName Maximum{u"Maximum"};
-inline const MemberName MenuText{u"MenuText"};
-inline const MemberName MergeCells{u"MergeCells"};
-inline const MemberName Move{u"Move"};
-inline const MemberName Name{u"Name"};
-inline const MemberName Names{u"Names"};
-inline const MemberName NumberFormat{u"NumberFormat"};
-inline const MemberName OLEObjects{u"OLEObjects"};
-inline const MemberName OLEType{u"OLEType"};
-inline const MemberName OnAction{u"OnAction"};
-inline const MemberName Open{u"Open"};
-inline const MemberName Operator{u"Operator"};
-inline const MemberName Parent{u"Parent"};
-inline const MemberName Password{u"Password"};
-inline const MemberName Paste{u"Paste"};
-inline const MemberName PasteFace{u"PasteFace"};
-inline const MemberName PasteSpecial{u"PasteSpecial"};
-inline const MemberName Path{u"Path"};
-inline const MemberName Position{u"Position"};
-inline const MemberName PrintOut{u"PrintOut"};
-inline const MemberName Prompt{u"Prompt"};
-inline const MemberName Proper{u"Proper"};
-inline const MemberName Protect{u"Protect"};
-inline const MemberName ProtectContents{u"ProtectContents"};
-inline const MemberName ProtectDrawingObjects{u"ProtectDrawingObjects"};
-inline const MemberName ProtectScenarios{u"ProtectScenarios"};
-inline const MemberName Range{u"Range"};
-inline const MemberName ReadOnly{u"ReadOnly"};
-inline const MemberName RecentFiles{u"RecentFiles"};
-inline const MemberName ReferenceStyle{u"ReferenceStyle"};
-inline const MemberName RefersTo{u"RefersTo"};
-inline const MemberName RefersToRange{u"RefersToRange"};
-inline const MemberName RelativeTo{u"RelativeTo"};
-inline const MemberName RemoveItem{u"RemoveItem"};
-inline const MemberName Replace{u"Replace"};
-inline const MemberName RoundDown{u"RoundDown"};
-inline const MemberName Row{u"Row"};
-inline const MemberName RowAbsolute{u"RowAbsolute"};
-inline const MemberName RowHeight{u"RowHeight"};
-inline const MemberName RowIndex{u"RowIndex"};
-inline const MemberName Rows{u"Rows"};
-inline const MemberName Save{u"Save"};
-inline const MemberName SaveAs{u"SaveAs"};
-inline const MemberName SaveChanges{u"SaveChanges"};
-inline const MemberName SaveCopyAs{u"SaveCopyAs"};
-inline const MemberName Saved{u"Saved"};
-inline const MemberName ScreenUpdating{u"ScreenUpdating"};
-inline const MemberName ScrollArea{u"ScrollArea"};
-inline const MemberName SearchDirection{u"SearchDirection"};
-inline const MemberName SearchOrder{u"SearchOrder"};
-inline const MemberName Select{u"Select"};
-inline const MemberName SelectedSheets{u"SelectedSheets"};
-inline const MemberName Selection{u"Selection"};
-inline const MemberName SeriesCollection{u"SeriesCollection"};
-inline const MemberName Shapes{u"Shapes"};
-inline const MemberName Sheets{u"Sheets"};
-inline const MemberName ShortcutKey{u"ShortcutKey"};
-inline const MemberName Size{u"Size"};
-inline const MemberName SourceName{u"SourceName"};
-inline const MemberName SpecialCells{u"SpecialCells"};
-inline const MemberName StatusBar{u"StatusBar"};
-inline const MemberName Tag{u"Tag"};
-inline const MemberName Temporary{u"Temporary"};
-inline const MemberName Text{u"Text"};
-inline const MemberName ThisWorkbook{u"ThisWorkbook"};
-inline const MemberName Title{u"Title"};
-inline const MemberName ToolTipText{u"ToolTipText"};
-inline const MemberName Top{u"Top"};
-inline const MemberName TransitionFormEntry{u"TransitionFormEntry"};
-inline const MemberName Type{u"Type"};
-inline const MemberName Unprotect{u"Unprotect"};
-inline const MemberName UsedRange{u"UsedRange"};
-inline const MemberName UserName{u"UserName"};
-inline const MemberName Value{u"Value"};
-inline const MemberName Value2{u"Value2"};
-inline const MemberName Version{u"Version"};
-inline const MemberName Visible{u"Visible"};
-inline const MemberName Weight{u"Weight"};
-inline const MemberName What{u"What"};
-inline const MemberName Width{u"Width"};
-inline const MemberName Window{u"Window"};
-inline const MemberName Windows{u"Windows"};
-inline const MemberName Workbooks{u"Workbooks"};
-inline const MemberName Worksheet{u"Worksheet"};
-inline const MemberName WorksheetFunction{u"WorksheetFunction"};
-inline const MemberName Worksheets{u"Worksheets"};
-inline const MemberName WrapText{u"WrapText"};
+#define QOR_NUMBER(name) name,
+enum class Number : std::size_t { QOR_MEMBER_NAMES(QOR_NUMBER) };
+#undef QOR_NUMBER
+
+#define QOR_NAME(name) \
+    inline constexpr MemberName name = MemberName::spelled(u"" #name, static_cast<std::size_t>(Number::name));
+QOR_MEMBER_NAMES(QOR_NAME)
+#undef QOR_NAME
+
+#define QOR_NAME(name) name,
+inline constexpr std::array all{QOR_MEMBER_NAMES(QOR_NAME)};
+#undef QOR_NAME
 
 }  // namespace qor::names
