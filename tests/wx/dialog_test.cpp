@@ -46,6 +46,19 @@ TEST_CASE_FIXTURE(EveryKind, "Escape and closing the window are the Cancel butto
     CHECK_FALSE(form.loaded());
 }
 
+TEST_CASE_FIXTURE(EveryKind,
+                  "a control that is disabled while it has the focus hands it on, and keys go on reaching the dialog") {
+    show([&](User& user) {
+        user.click("txtName");
+        REQUIRE(user.focus(form) == "txtName");
+        user.on_screen([&] { form.txtName.set_enabled(false); });
+        user.settle();
+        CHECK(user.focus(form) == "chkPath");
+        user.key("Escape");
+    });
+    CHECK((form.log.find(u"Cancel ") != std::u16string::npos));
+}
+
 TEST_CASE_FIXTURE(EveryKind, "a press on Cancel's button unloads the form") {
     show([&](User& user) { user.click("cmdButton(1)"); });
     CHECK(to_utf8(form.log) == "enter leave Cancel ");
