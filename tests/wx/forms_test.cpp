@@ -1,4 +1,5 @@
 #include <wx/notebook.h>
+#include <wx/splitter.h>
 
 #include <memory>
 
@@ -118,6 +119,21 @@ TEST_CASE_FIXTURE(Product, "every form has a layout with exactly its controls, a
     }
     for (const auto& layout : wx::product_layouts())
         CHECK_MESSAGE(names.contains(std::u16string(layout.first)), to_utf8(layout.first));
+}
+
+TEST_CASE_FIXTURE(Product, "what is split begins with its left part as wide as that needs to be") {
+    int split = 0;
+    for (const auto& form : forms) {
+        CAPTURE(to_utf8(form->name()));
+        const auto window = std::make_shared<wx::FormWindow>(*form, wx::product_layouts(), nullptr);
+        for (const wxWindow* child : window->dialog().GetChildren()) {
+            const auto* splitter = dynamic_cast<const wxSplitterWindow*>(child);
+            if (!splitter) continue;
+            ++split;
+            CHECK(splitter->GetSashPosition() == splitter->GetWindow1()->GetBestSize().x);
+        }
+    }
+    CHECK(split == 4);  // the reports
 }
 
 TEST_CASE_FIXTURE(Product,
