@@ -18,6 +18,8 @@ TEST_CASE_FIXTURE(EveryKind, "Enter presses OK wherever the focus is, but not wh
         user.on_screen([&] { form.cmdButton(0).set_enabled(true); });
         user.on_screen([] { window_of<wxWindow>("treMain").SetFocus(); });
         user.settle();
+        user.key("ctrl+Return");
+        CHECK((form.log.find(u"OK") == std::u16string::npos));
         user.key("Return");
         CHECK((form.log.find(u"OK ") != std::u16string::npos));
         CHECK_FALSE(form.visible());

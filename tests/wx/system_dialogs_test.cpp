@@ -1,3 +1,5 @@
+#include <gtk/gtk.h>
+
 #include <atomic>
 #include <fstream>
 
@@ -35,19 +37,29 @@ struct SystemDialog : OnDisplay {
     }
 };
 
+// Of the toolkit's, the dialogs of the system among them.
+int shown_windows() {
+    int count = 0;
+    GList* windows = gtk_window_list_toplevels();
+    for (const GList* at = windows; at; at = at->next) count += gtk_widget_get_mapped(GTK_WIDGET(at->data)) ? 1 : 0;
+    g_list_free(windows);
+    return count;
+}
+
 }  // namespace
 
 TEST_CASE_FIXTURE(SystemDialog, "a file is picked by its path, or not at all") {
     FileDialog dialog;
     dialog.title = u"Find Excel Template";
-    dialog.kinds = {{u"Excel Templates (*.xlt) ", u" *.xlt"}};
+    dialog.kinds = {{u"All Files (*.*)", u"*.*"}, {u"Excel Templates (*.xlt) ", u" *.xlt"}};
+    dialog.chosen_kind = 1;
     std::optional<std::u16string> picked = u"before";
     const auto pick = [&] { picked = screen.pick_file(nullptr, dialog); };
     SUBCASE("by its path") {
         play(pick, "Find Excel Template", [&](User& user) { enter_path(user, book); });
         REQUIRE(picked);
         CHECK(to_utf8(*picked) == book.native());
-        CHECK(dialog.chosen_kind == 0);
+        CHECK(dialog.chosen_kind == 1);
     }
     SUBCASE("by Escape") {
         play(pick, "Find Excel Template", [&](User& user) { user.key("Escape"); });
@@ -69,6 +81,24 @@ TEST_CASE_FIXTURE(SystemDialog, "a name to save under is asked for in the folder
     play([&] { picked = screen.pick_file(nullptr, dialog); }, "Export", [&](User& user) { user.key("Return"); });
     REQUIRE(picked);
     CHECK(to_utf8(*picked) == (folder.path / "range.txt").native());
+}
+
+TEST_CASE_FIXTURE(SystemDialog, "a file that is there is not written over without a question") {
+    FileDialog dialog;
+    dialog.purpose = FileDialog::Purpose::save;
+    dialog.title = u"Export";
+    dialog.folder = from_utf8(folder.path.native());
+    dialog.file_name = from_utf8(book.filename().native());
+    std::optional<std::u16string> picked;
+    play([&] { picked = screen.pick_file(nullptr, dialog); }, "Export",
+         [&](User& user) {
+             user.key("Return");
+             CHECK(user.sees([] { return shown_windows() == 2; }));
+             user.key("Escape");
+             CHECK(user.sees([] { return shown_windows() == 1; }));
+             user.key("Escape");
+         });
+    CHECK_FALSE(picked);
 }
 
 TEST_CASE_FIXTURE(SystemDialog, "a folder is picked by its path, or not at all") {
