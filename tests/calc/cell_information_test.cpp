@@ -1,6 +1,8 @@
-#include "tests/calc/report_run.hpp"
+#include <com/sun/star/util/XMergeable.hpp>
 
+#include "hosts/calc/adapter/range_areas.hpp"
 #include "platform/text.hpp"
+#include "tests/calc/report_run.hpp"
 
 namespace qor::calc::tests {
 namespace {
@@ -82,6 +84,47 @@ TEST_CASE("the Cell Information says of each cell that is not empty where it sta
     CHECK(look(9, 8, names::NumberFormat) == u"General");
     for (std::int32_t column = 1; column <= 12; ++column) CHECK(look(8, column, names::HorizontalAlignment) == -4131);
     CHECK(look(12, 1, names::HorizontalAlignment) == 1);
+}
+
+TEST_CASE("the Cell Information of formulas, errors, merged cells and cells that only look like something") {
+    ToolRun run;
+    const Object book = run.add_book();
+    const Object sheet = book.get(names::Worksheets, 1);
+    put_formula(sheet, u"A1", u"=IF(1=1,\"\",2)");
+    put_formula(sheet, u"B1", u"=1/0");
+    put(sheet, u"C1", u"'=no formula");
+    sheet.get(names::Range, u"A2:B2").put(names::FormulaArray, u"={1,2}*3");
+    put(sheet, u"A3", 7.0);
+    const Sheet raw =
+        Book{std::make_shared<Host>(office_context()), Host(office_context()).documents().back()}.sheets().front();
+    Ref<css::util::XMergeable>(cells_at(raw, {0, 2, 2, 2}))->merge(true);
+    sheet.get(names::Range, u"D4").get(names::Interior).put(names::Color, 255);
+    const Object second = book.get(names::Worksheets).call(names::Add, named(names::After, sheet));
+    put(second, u"B1", u"next");
+    second.put(names::Name, u"Next");
+    book.get(names::Worksheets).call(names::Add, named(names::After, second)).put(names::Name, u"Nothing");
+
+    // Of three worksheets two are checked.
+    const std::string window = utf8(book.get(names::Name));
+    const auto click = [&](const std::string& node) { return json{{"check", "ctlTreeView"}, {"node", node}}; };
+    json actions = json::array({{{"check", "treCellInfo"}, {"row", "Workbook Name"}}, click(window + "*Sheet1")});
+    actions.push_back(click(window + "*Next"));
+    actions.push_back({{"press", "cmdButton(0)"}});
+    const json shown = run.call(u"UTCelInf", {{"forms", json::array({actions})}});
+
+    CHECK(shown["progress"] == json::parse("[1, 1]"));
+    const Report report = read_report(run.active_sheet());
+    CHECK(report.headings.front() == u"Worksheet Name");
+    CHECK(report.column(u"Worksheet Name") ==
+          std::vector<Variant>{u"Sheet1", u"Sheet1", u"Sheet1", u"Sheet1", u"Sheet1", u"Sheet1", u"Next"});
+    CHECK(report.column(u"Cell Address") == std::vector<Variant>{u"A1", u"B1", u"C1", u"A2", u"B2", u"A3", u"B1"});
+    CHECK(report.column(u"Cell Data Type") ==
+          std::vector<Variant>{u"String", u"Error", u"String", u"Double", u"Double", u"Double", u"String"});
+    CHECK(report.column(u"Cell Formula") ==
+          std::vector<Variant>{u"=IF(1=1,\"\",2)", u"=1/0", none, u"{={1,2}*3}", u"{={1,2}*3}", none, none});
+    CHECK(report.column(u"Cell Value") ==
+          std::vector<Variant>{none, u"Error 2007", u"=no formula", u"3", u"6", u"7", u"next"});
+    CHECK(run.cell(7, 8) == ErrorValue{2007});
 }
 
 }  // namespace qor::calc::tests

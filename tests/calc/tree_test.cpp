@@ -1,3 +1,4 @@
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/DispatchHelper.hpp>
 #include <com/sun/star/frame/XDispatchProvider.hpp>
 
@@ -105,7 +106,8 @@ TEST_CASE_FIXTURE(Tree, "a sheet is deleted after a question, the last one of a 
     CHECK(application.get(names::DisplayAlerts) == true);
 }
 
-TEST_CASE_FIXTURE(Tree, "two windows of a workbook show the same sheets, and a deletion takes them from both") {
+TEST_CASE_FIXTURE(
+    Tree, "two windows of a workbook show the same sheets; a deletion takes them from both, and each gets new ones") {
     open_second_window(plan);
     CHECK(plan.get(names::Windows).get(names::Count) == 2);
     act({{{"delete", "ctlTreeView"}, {"node", "plan.ods:2*Loan"}},
@@ -116,6 +118,14 @@ TEST_CASE_FIXTURE(Tree, "two windows of a workbook show the same sheets, and a d
     act({{{"double", "ctlTreeView"}, {"node", "plan.ods:1*Inputs"}}});
     CHECK(active() == "plan.ods Inputs");
     CHECK(application.get(names::ActiveWindow).get(names::Caption) == u"plan.ods:1");
+    const json shown = call(u"UTAddWor", {{"forms",
+                                           {{{{"check", "ctlTreeView"}, {"node", "plan.ods:1"}},
+                                             {{"check", "ctlTreeView"}, {"node", "plan.ods:2"}},
+                                             {{"set", "ctlSpinner1"}, {"to", "1"}},
+                                             {{"press", "cmdButton(0)"}}}}}});
+    CHECK(shown["progress"] == json{2, 2});
+    CHECK(plan.get(names::Worksheets).get(names::Count) == 4);
+    CHECK(sheet_names(plan).ends_with("/Ratios/Inputs/"));
 }
 
 TEST_CASE_FIXTURE(Tree, "a double click goes to a sheet, and shows it and its window where they are hidden") {
@@ -185,6 +195,12 @@ TEST_CASE_FIXTURE(Tree, "Calc cannot undo a sheet that came from another workboo
     act({drag("plan.ods*Loan", "other.ods")});
     CHECK(sheet_names(other) == "Loan/Notes/Draft/");
     CHECK(undo_titles().empty());
+    // In the workbook that it left it can be brought back.
+    Ref {
+        Ref<css::document::XUndoManagerSupplier>(document_of(plan))->getUndoManager()
+        } -> undo();
+    CHECK(sheet_names(plan) == "Inputs/Loan/Ratios/");
+    CHECK(sheet_names(other) == "Loan/Notes/Draft/");
 }
 
 TEST_CASE_FIXTURE(Tree, "a workbook closed and sheets deleted or renamed under the tree are passed over") {

@@ -35,6 +35,36 @@ TEST_CASE_FIXTURE(Tool, "the report is made through its dialog, over Calc's wind
     CHECK(report.get(names::Cells, 5, 1).get(names::Value) == u"Workbook Name");
 }
 
+TEST_CASE_FIXTURE(Tool, "the fields of every report are moved and left out by the pointer") {
+    struct Dialog {
+        const char16_t* tool;
+        const char* title;
+        const char16_t* third_field;
+        const char16_t* fourth_field;
+    };
+    constexpr Dialog dialogs[]{
+        {u"UTCelInf", "QOR Plus: Cell Information", u"Cell Address", u"Cell Row"},
+        {u"UTDatRev", "QOR Plus: Date Review", u"Cell Address", u"Cell Row"},
+        {u"UTWokSum", "QOR Plus: Workbook Summary", u"Category", u"Company"},
+        {u"UTWorSum", "QOR Plus: Worksheet Summary", u"Protected Contents", u"Protected Drawing Objects"},
+    };
+    const char* const fields = "treCellInfo";
+    for (const Dialog& dialog : dialogs) {
+        CAPTURE(std::string(dialog.title));
+        DialogRun::open(dialog.tool, dialog.title, [&](User& user) {
+            constexpr int in_box = 12;  // a list without branches has its boxes at the edge
+            user.click_in(fields, {in_box, box(user, 1, 1).y});
+            user.drag(fields, text(user, 2, 1), text(user, 0, 1));
+            check(user, 0, 1);
+            user.click("cmdButton(0)");
+        });
+        const Object report = calc.application.get(names::ActiveSheet).object();
+        CHECK(report.get(names::Cells, 5, 1).get(names::Value) == dialog.third_field);
+        CHECK(report.get(names::Cells, 5, 2).get(names::Value) == u"Workbook Name");
+        CHECK(report.get(names::Cells, 5, 3).get(names::Value) == dialog.fourth_field);
+    }
+}
+
 TEST_CASE_FIXTURE(
     Tool,
     "while the dialog is open, Calc's window takes neither pointer nor keyboard; the dialog stands over its middle") {
