@@ -79,8 +79,9 @@ struct Product : OnDisplay {
         std::vector<std::size_t> places;
         for (std::size_t at = 0; at < form.controls().size(); ++at) {
             const Control& control = *form.controls()[at];
+            const std::string name = to_utf8(control.name());
             if (dynamic_cast<const Frame*>(&control) || dynamic_cast<const Label*>(&control)) continue;
-            const auto& window = window_of<wxWindow>(to_utf8(control.name()));
+            const auto& window = window_of<wxWindow>(name);
             if (window.IsShownOnScreen() && window.IsEnabled()) places.push_back(at);
         }
         return places;
