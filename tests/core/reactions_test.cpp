@@ -268,6 +268,7 @@ struct ScrollAreas : Host {
     std::vector<Object> pairs(std::vector<std::pair<std::u16string, std::u16string>>& entries,
                               const MemberName& property) {
         std::vector<Object> objects;
+        objects.reserve(entries.size());
         for (auto& entry : entries) {
             objects.push_back(make(u"Entry", [&](auto& object) {
                 object.holds(names::Name, entry.first);

@@ -103,6 +103,13 @@ TEST_CASE_FIXTURE(EveryKind, "a swatch shows its colours and is pressed") {
     show([&](User& user) {
         user.on_screen(
             [] { CHECK(window_of<wxWindow>("cmdColor").GetBackgroundColour() == wxColour(0x00, 0x80, 0xFF)); });
+        user.on_screen([&] {
+            form.cmdColor.set_back_color(0xFFFFFF);
+            form.cmdColor.set_fore_color(0x0000C0);  // red
+        });
+        user.settle();
+        user.on_screen(
+            [] { CHECK(window_of<wxWindow>("cmdColor").GetForegroundColour() == wxColour(0xC0, 0x00, 0x00)); });
         form.log.clear();
         user.click("cmdColor");
         CHECK((form.log.find(u"color ") != std::u16string::npos));
