@@ -192,6 +192,9 @@ TEST_CASE("printing one sheet of a workbook") {
               }) == 1004);
         CHECK_FALSE(std::filesystem::exists(file));
     }
+    // This office has no print service.
+    CHECK(error_of([&] { first.call(names::PrintOut); }) == 1004);
+    CHECK(error_of([&] { book.get(names::Worksheets, u"Empty").call(names::PrintOut); }) == 0);
     CHECK(active_sheet(calc) == "Empty");
     first.put(names::Visible, 0);
     CHECK(error_of([&] { first.call(names::PrintOut); }) == 1004);

@@ -4,14 +4,21 @@
 #include <com/sun/star/awt/PrinterServer.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/view/PrintableState.hpp>
+#include <com/sun/star/view/XPrintJobBroadcaster.hpp>
+#include <com/sun/star/view/XPrintJobListener.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
+#include <cppuhelper/implbase1.hxx>
 #include <filesystem>
+#include <memory>
+#include <rtl/ref.hxx>
 
 #include "hosts/calc/adapter/drawn_objects.hpp"
 #include "hosts/calc/adapter/file_paths.hpp"
 #include "hosts/calc/adapter/kept_view.hpp"
 #include "hosts/calc/adapter/selection.hpp"
 #include "hosts/calc/adapter/used_area.hpp"
+#include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
 
@@ -34,6 +41,34 @@ std::u16string number(std::int32_t value) {
     return from_utf8(std::to_string(value));
 }
 
+// Hears how a print job ends. Where nothing takes the pages, as without a print service, the office says so to
+// listeners only.
+class PrintResult final : public cppu::WeakImplHelper1<css::view::XPrintJobListener> {
+  public:
+    void SAL_CALL printJobEvent(const css::view::PrintJobEvent& event) override {
+        using namespace css::view;
+        failed_ = failed_ || event.State == PrintableState_JOB_FAILED || event.State == PrintableState_JOB_ABORTED ||
+                  event.State == PrintableState_JOB_SPOOLING_FAILED;
+    }
+    void SAL_CALL disposing(const css::lang::EventObject&) override {}
+    bool failed() const { return failed_; }
+
+  private:
+    bool failed_ = false;
+};
+
+// Raises 1004 where the job fails.
+void print(const Document& document, const PropertyValues& options) {
+    const Ref<css::view::XPrintJobBroadcaster> jobs(document);
+    const rtl::Reference<PrintResult> result(new PrintResult);
+    const css::uno::Reference<css::view::XPrintJobListener> listener(result.get());
+    jobs->addPrintJobListener(listener);
+    const std::shared_ptr<void> end(
+        nullptr, [&](void*) { attempt([&] { guarded([&] { jobs->removePrintJobListener(listener); }); }); });
+    Ref<css::view::XPrintable>(document)->print(options);
+    if (result->failed()) throw Error(ErrorNumber::host_refused, {}, u"The pages cannot be printed.");
+}
+
 // The office prints with another one where it does not know the printer, or with none at all.
 void require_printer(const HostPointer& host, const std::optional<std::u16string>& name) {
     const Ref server{css::awt::PrinterServer::create(host->context())};
@@ -50,7 +85,6 @@ void print_sheet(const Sheet& sheet, const PrintOptions& options) {
     const KeptView view(sheet.book);
     select_sheets(sheet.book, {sheet.index()}, true);
     if (is_empty(sheet)) return;
-    const Ref<css::view::XPrintable> printable(sheet.book.document);
     std::vector<css::beans::PropertyValue> values{named_value("CopyCount", static_cast<sal_Int16>(options.copies)),
                                                   named_value("Collate", options.collate), named_value("Wait", true)};
     if (options.first_page || options.last_page) {
@@ -63,9 +97,9 @@ void print_sheet(const Sheet& sheet, const PrintOptions& options) {
     if (!options.file || options.printer) require_printer(sheet.book.host, options.printer);
     if (options.printer) {
         const css::beans::PropertyValue name = named_value("Name", to_uno(*options.printer));
-        printable->setPrinter(sequence({name}));
+        Ref<css::view::XPrintable>(sheet.book.document)->setPrinter(sequence({name}));
     }
-    printable->print(sequence(values));
+    print(sheet.book.document, sequence(values));
     std::error_code ignored;
     if (options.file && !std::filesystem::is_regular_file(to_utf8(*options.file), ignored)) {
         throw Error(ErrorNumber::host_refused, {}, u"'" + *options.file + u"' cannot be written.");
