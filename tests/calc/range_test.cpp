@@ -1,3 +1,4 @@
+#include "hosts/calc/uno/ref.hpp"
 #include "tests/calc/fixture.hpp"
 
 namespace qor::calc::tests {
@@ -25,7 +26,7 @@ TEST_CASE("ranges are found by text, corners and numbers") {
     CHECK(address(sheet.get(names::Cells)) == "$1:$1048576");
     CHECK(address(calc.application.get(names::Range, u"Sheet1!C3")) == "$C$3");
     CHECK(error_of([&] { sheet.get(names::Range, u"no such name"); }) == 1004);
-    CHECK(error_of([&] { sheet.get(names::Range, u"Nowhere!A1"); }) == 9);
+    CHECK(error_of([&] { sheet.get(names::Range, u"Nowhere!A1"); }) == 1004);
     CHECK(error_of([&] { sheet.get(names::Cells, 0, 1); }) == 1004);
     CHECK(error_of([&] { sheet.get(names::Cells).get(names::Count); }) == 6);
 
@@ -117,6 +118,11 @@ TEST_CASE("how cells look") {
     CHECK(cell.get(names::NumberFormat) == u"0.00%");
     cell.put(names::NumberFormat, u"mm/dd/yyyy");
     CHECK(cell.get(names::NumberFormat) == u"mm/dd/yyyy");
+    for (const char16_t* format :
+         {u"[h]:mm", u"[Color10]0", u"[Red]0.0;[Blue]-0.0", u"[>100]0;0.0", u"\"x\"0", u"$#,##0.00"}) {
+        cell.put(names::NumberFormat, format);
+        CHECK(cell.get(names::NumberFormat) == format);
+    }
     CHECK(error_of([&] { cell.put(names::NumberFormat, u"0["); }) == 1004);
     cell.put(names::NumberFormat, u"0.0");
     cell.put(names::Value, 2.25);
@@ -127,6 +133,34 @@ TEST_CASE("how cells look") {
     CHECK(cell.get(names::RowHeight) == 30.0);
     cell.put(names::ColumnWidth, 20.0);
     CHECK(cell.get(names::ColumnWidth) == 20.0);
+}
+
+TEST_CASE("an array of number formats goes in at once") {
+    const Calc calc;
+    const Object sheet = calc.add_sheet();
+    Array formats = Array::table(20000, 2);
+    for (std::size_t row = 0; row < 20000; ++row) {
+        formats.at(row, 0) = u"0.00";
+        formats.at(row, 1) = row < 10000 ? u"0%" : u"@";
+    }
+    const std::uint64_t before = host_calls;
+    sheet.get(names::Range, u"A1:B20000").put(names::NumberFormat, formats);
+    CHECK(host_calls - before < 40);
+    const auto format = [&](const char16_t* address) {
+        return sheet.get(names::Range, address).get(names::NumberFormat);
+    };
+    CHECK(format(u"A1:A20000") == u"0.00");
+    CHECK(format(u"B1:B10000") == u"0%");
+    CHECK(format(u"B10001:B20000") == u"@");
+    CHECK(format(u"A1:B1") == Variant(Null{}));
+    CHECK(format(u"C1:C20001") == u"General");
+    sheet.get(names::Range, u"C1:D3").put(names::NumberFormat, Array::list({u"0.0", u"m/d/yyyy"}));
+    CHECK(format(u"C1:C3") == u"0.0");
+    CHECK(format(u"D1:D3") == u"m/d/yyyy");
+    CHECK(error_of([&] {
+              sheet.get(names::Range, u"C1:D1").put(names::NumberFormat, Array::list({u"0", u"0["}));
+          }) == 1004);
+    CHECK(format(u"C1") == u"0.0");
 }
 
 TEST_CASE("lines across cells") {

@@ -26,8 +26,8 @@ TEST_CASE("names that Excel would refuse are refused") {
     const Object book = calc.add_book();
     const Object sheet = book.get(names::Worksheets, 1);
     book.get(names::Worksheets).call(names::Add).put(names::Name, u"Taken");
-    for (const char16_t* name :
-         {u"", u"a/b", u"a:b", u"a[b", u"'quoted", u"taken", u"12345678901234567890123456789012"}) {
+    for (const char16_t* name : {u"", u"a/b", u"a\\b", u"a:b", u"a?b", u"a*b", u"a[b", u"a]b", u"'quoted", u"quoted'",
+                                 u"taken", u"12345678901234567890123456789012"}) {
         CHECK(error_of([&] { sheet.put(names::Name, name); }) == 1004);
         CHECK(sheet.get(names::Name) == u"Sheet1");
     }

@@ -5,12 +5,15 @@
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+#include <map>
 
 #include "hosts/calc/adapter/kept_row_heights.hpp"
 #include "hosts/calc/adapter/scattered_formats.hpp"
+#include "hosts/calc/adapter/write_guard.hpp"
 #include "hosts/calc/formula/notation.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
+#include "runtime/conversion.hpp"
 
 namespace qor::calc {
 namespace {
@@ -94,21 +97,40 @@ std::vector<bool> cells_with_kept_format(const Rectangle& area, const std::vecto
     return result;
 }
 
+// "[RED]" as "[Red]", "[COLOR10]" as "[Color10]" and "[HH]" as "[hh]"; conditions stay as they are.
+std::u16string bracket_of_excel(std::u16string_view part) {
+    const std::u16string_view word = part.substr(1, part.size() - 2);
+    const bool is_word = std::ranges::all_of(word, [](char16_t c) { return is_letter(c) || is_digit(c); });
+    if (!is_word || word.empty() || !is_letter(word.front())) return std::u16string(part);
+    constexpr std::u16string_view time_letters = u"HMS";
+    const bool is_time = word.find_first_not_of(time_letters) == std::u16string_view::npos;
+    return is_time ? to_lower(part) : std::u16string(part.substr(0, 2)) + to_lower(part.substr(2));
+}
+
+// Files bring the sign of the dollar escaped or in quotes, which Excel does not show.
+std::size_t dollar_at(std::u16string_view code) {
+    for (const std::u16string_view dollar : {u"\\$", u"\"$\""}) {
+        if (code.starts_with(dollar)) return dollar.size();
+    }
+    return 0;
+}
+
 // Date letters come in capitals, colours too, and Booleans have a format of their own.
 std::u16string in_notation_of_excel(std::u16string_view code) {
     if (code == u"BOOLEAN") return u"General";
     std::u16string result;
     for (std::size_t i = 0; i < code.size();) {
         const char16_t c = code[i];
-        if (c == u'"') {
+        if (const std::size_t dollar = dollar_at(code.substr(i))) {
+            result += u'$';
+            i += dollar;
+        } else if (c == u'"') {
             const std::size_t start = i;
             take_quoted(code, i);
             result += code.substr(start, i - start);
         } else if (c == u'[') {
             const std::size_t end = std::min(code.find(u']', i), code.size() - 1) + 1;
-            std::u16string part(code.substr(i, end - i));
-            const bool word = part.size() > 4 && std::ranges::all_of(part.substr(1, part.size() - 2), is_letter);
-            result += word ? part.substr(0, 2) + to_lower(part.substr(2)) : part;
+            result += bracket_of_excel(code.substr(i, end - i));
             i = end;
         } else if (code.substr(i).starts_with(u"AM/PM") || code.substr(i).starts_with(u"General")) {
             const std::size_t length = c == u'A' ? 5 : 7;
@@ -140,6 +162,35 @@ std::u16string number_format_code(const Book& book, std::int32_t key) {
     const Ref format{formats_of(book)->getByKey(key)};
     const auto code = get_property<rtl::OUString>(format, "FormatString");
     return in_notation_of_excel(view_of(code));
+}
+
+void write_number_formats(const RangeAreas& areas, const Array& codes) {
+    std::map<std::u16string, std::vector<Rectangle>> places;
+    for (std::size_t i = 0; i < areas.areas.size(); ++i) {
+        const Rectangle area = areas.rectangle(i);
+        const auto size = [](std::size_t given, std::int32_t wanted) {
+            return given == 1 ? wanted : std::min(wanted, static_cast<std::int32_t>(given));
+        };
+        for (std::int32_t column = 0; column < size(codes.columns(), area.width()); ++column) {
+            for (std::int32_t row = 0; row < size(codes.rows(), area.height()); ++row) {
+                const std::size_t from_row = codes.rows() == 1 ? 0 : static_cast<std::size_t>(row);
+                const std::size_t from_column = codes.columns() == 1 ? 0 : static_cast<std::size_t>(column);
+                std::vector<Rectangle>& runs = places[to_text(codes.at(from_row, from_column))];
+                const Rectangle cell{area.left + column, area.top + row, area.left + column, area.top + row};
+                const bool below = !runs.empty() && runs.back().left == cell.left && runs.back().bottom + 1 == cell.top;
+                if (!below) runs.push_back(cell);
+                runs.back().bottom = cell.bottom;
+            }
+        }
+    }
+    std::vector<std::pair<std::int32_t, RangeAreas>> changes;
+    for (const auto& [code, runs] : places) {
+        changes.emplace_back(number_format_key(areas.sheet.book, code), ranges_at(areas.sheet, runs));
+    }
+    before_formatting(areas);
+    for (const auto& [key, cells] : changes) {
+        cells.areas.together() ? set_scattered_format(cells, key) : set_property(cells.whole(), "NumberFormat", key);
+    }
 }
 
 std::vector<KindRun> number_kind_changes(const Rectangle& area, const std::vector<KindOfCells>& before,

@@ -9,6 +9,10 @@ std::int32_t number_format_key(const Book& book, std::u16string_view code);
 // The format of that key in Excel's notation.
 std::u16string number_format_code(const Book& book, std::int32_t key);
 
+// One format for each cell, as an array of values goes into cells: a single row or column of it is repeated, and cells
+// beyond it stay as they are. All formats or, where one is refused, none.
+void write_number_formats(const RangeAreas& areas, const Array& codes);
+
 // A run of cells whose numbers have to show as this kind.
 struct KindRun {
     Rectangle cells;

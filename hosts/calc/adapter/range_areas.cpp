@@ -56,7 +56,11 @@ std::optional<RangeAreas> range_of_name(const Sheet& sheet, std::u16string_view 
     return {};
 }
 
-// The sheet in front of the exclamation mark, with or without a workbook in brackets.
+[[noreturn]] void refuse_text() {
+    throw Error(ErrorNumber::host_refused, {}, u"Method 'Range' of object '_Global' failed");
+}
+
+// The sheet in front of the exclamation mark, with or without a workbook in brackets. Raises 9 when there is none.
 Sheet sheet_of_prefix(const Sheet& sheet, std::u16string_view prefix) {
     std::u16string place(prefix);
     std::size_t position = 0;
@@ -77,13 +81,13 @@ RangeAreas one_area(const Sheet& default_sheet, std::u16string_view text, const 
     Sheet sheet = default_sheet;
     Rectangle offset = origin;
     if (const std::size_t mark = text.rfind(u'!'); mark != std::u16string_view::npos) {
-        sheet = sheet_of_prefix(default_sheet, text.substr(0, mark));
+        if (attempt([&] { sheet = sheet_of_prefix(default_sheet, text.substr(0, mark)); }) != 0) refuse_text();
         text = text.substr(mark + 1);
         offset = {};
     }
     if (const auto pair = parse_range(text)) return range_at(sheet, rectangle_between(*pair, offset));
     if (auto found = range_of_name(sheet, text)) return *std::move(found);
-    throw Error(ErrorNumber::host_refused, {}, u"Method 'Range' of object '_Global' failed");
+    refuse_text();
 }
 
 // Areas that all name cells of this sheet by their places; nothing where one of them does not.

@@ -16,6 +16,7 @@
 #include "hosts/calc/adapter/number_formats.hpp"
 #include "hosts/calc/adapter/range_object.hpp"
 #include "hosts/calc/adapter/scattered_formats.hpp"
+#include "runtime/conversion.hpp"
 
 namespace qor::calc {
 namespace {
@@ -105,9 +106,10 @@ Variant RangeObject::number_format() {
                   [&](sal_Int32 key) { return number_format_code(areas_.sheet.book, key); });
 }
 
-void RangeObject::set_number_format(const std::u16string& format) {
+void RangeObject::set_number_format(const Variant& format) {
     const KeptRowHeights heights(areas_.sheet.book.document);
-    const std::int32_t key = number_format_key(areas_.sheet.book, format);
+    if (const Array* codes = format.array()) return write_number_formats(areas_, *codes);
+    const std::int32_t key = number_format_key(areas_.sheet.book, to_text(format));
     if (!areas_.areas.together()) return set_attribute(areas_, "NumberFormat", key);
     before_formatting(areas_);
     set_scattered_format(areas_, key);

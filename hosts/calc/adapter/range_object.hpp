@@ -75,7 +75,7 @@ class RangeObject final : public CalcObject<RangeObject> {
 
     // How they look (range_look.cpp).
     Variant number_format();
-    void set_number_format(const std::u16string& format);
+    void set_number_format(const Variant& format);
     Variant horizontal_alignment();
     void set_horizontal_alignment(std::int32_t alignment);
     Variant wrap_text();
