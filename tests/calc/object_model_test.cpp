@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -9,6 +11,7 @@
 #include <sstream>
 #include <string>
 
+#include "automation/member_names.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc::tests {
@@ -27,7 +30,30 @@ std::vector<std::string> cells_of(const std::string& row) {
     return cells;
 }
 
-Lines documented_members() {
+// What the page says of its own rows.
+struct Tally {
+    std::size_t objects = 0;
+    std::size_t members = 0;
+    std::size_t remarks = 0;
+    std::size_t unserved = 0;
+};
+
+std::string sentence_of(const Tally& tally) {
+    return fmt::format(
+        "There are {} members of {} objects: {} with no difference known, {} with a difference in a "
+        "detail, and {} that begin with **cannot**.",
+        tally.members, tally.objects, tally.members - tally.remarks, tally.remarks - tally.unserved, tally.unserved);
+}
+
+// The page in one line, so that a sentence is found wherever its lines are broken.
+std::string whole_page() {
+    std::ifstream page(QOR_OBJECT_MODEL);
+    std::string text{std::istreambuf_iterator<char>(page), {}};
+    std::ranges::replace(text, '\n', ' ');
+    return text;
+}
+
+Lines documented_members(Tally& tally) {
     Lines lines;
     std::ifstream page(QOR_OBJECT_MODEL);
     REQUIRE(page);
@@ -37,6 +63,7 @@ Lines documented_members() {
         if (line.starts_with("## ")) {
             object = line.substr(3);
             previous.clear();
+            ++tally.objects;
         }
         if (!line.starts_with("| ") || line.starts_with("| member ")) continue;
         const std::vector<std::string> cells = cells_of(line);
@@ -46,6 +73,9 @@ Lines documented_members() {
         previous = cells[0];
         const bool known_kind = cells[1] == "property" || cells[1] == "property, read-only" || cells[1] == "method";
         CHECK(known_kind);
+        ++tally.members;
+        if (!cells[3].empty()) ++tally.remarks;
+        if (cells[3].starts_with("**cannot**: ")) ++tally.unserved;
         lines.insert(object + "." + cells[0] + (cells[1] == "property" ? ": writable" : ": not writable"));
     }
     return lines;
@@ -71,11 +101,32 @@ Lines without(const Lines& lines, const Lines& others) {
 }  // namespace
 
 TEST_CASE("the page on the object model lists the members that the adapter answers, and no others") {
-    const Lines documented = documented_members();
+    Tally tally;
+    const Lines documented = documented_members(tally);
     const Lines answered = answered_members();
     CHECK(answered.size() > 100);
     for (const std::string& line : without(answered, documented)) FAIL_CHECK("missing on the page: " << line);
     for (const std::string& line : without(documented, answered)) FAIL_CHECK("only on the page: " << line);
+    CHECK_MESSAGE(whole_page().find(sentence_of(tally)) != std::string::npos, sentence_of(tally));
+}
+
+TEST_CASE("every name that the tools use is a member of some object or an argument") {
+    const Lines arguments{
+        "After",         "ArrangeStyle",    "Before",          "Category",    "ColumnAbsolute", "Default",
+        "Description",   "Destination",     "FileFilter",      "Filename",    "HasMenu",        "HasShortcutKey",
+        "HelpContextID", "HelpFile",        "InitialFilename", "LinkSource",  "LookAt",         "LookIn",
+        "Macro",         "MenuText",        "Password",        "Prompt",      "RelativeTo",     "RowAbsolute",
+        "SaveChanges",   "SearchDirection", "SearchOrder",     "ShortcutKey", "Temporary",      "Title",
+        "What",          "Window"};
+    Lines members;
+    for (const ObjectDescription& object : object_model()) {
+        for (const MemberDescription& member : object.members()) members.insert(to_utf8(to_lower(member.name)));
+    }
+    Lines others;
+    for (const MemberName& name : names::all) {
+        if (!members.contains(to_utf8(to_lower(name.text())))) others.insert(to_utf8(name.text()));
+    }
+    CHECK(others == arguments);
 }
 
 }  // namespace qor::calc::tests
