@@ -116,7 +116,7 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
         return make_range(range_at(sheet_, whole_sheet)).get(names::Range, first, last);
     }
 
-    Object comments() { return make_comments(sheet_); }
+    Variant comments(const Variant& index) { return item_or_all(make_comments(sheet_), index); }
     Object hyperlinks() { return make_hyperlinks(range_at(sheet_, whole_sheet)); }
 
     // Without a destination it goes where the selection is.
@@ -202,7 +202,7 @@ const MemberTable<WorksheetObject>& WorksheetObject::members() {
         property<&W::chart_objects>(u"ChartObjects", {u"Index"}),
         method<&W::check_spelling>(u"CheckSpelling"),
         property<&W::columns>(u"Columns", {u"Index"}),
-        property<&W::comments>(u"Comments"),
+        property<&W::comments>(u"Comments", {u"Index"}),
         method<&W::copy>(u"Copy", {u"Before", u"After"}),
         method<&W::remove>(u"Delete"),
         property<&W::hyperlinks>(u"Hyperlinks"),
