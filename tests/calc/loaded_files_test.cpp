@@ -80,6 +80,8 @@ TEST_CASE("what cells hold beside values survives files of three kinds") {
         sheet.get(names::Range, u"C1").put(names::Formula, u"=SUM(A1:A3,$B$1)");
         sheet.get(names::Range, u"C2").put(names::Value, true);
         sheet.get(names::Range, u"C3").put(names::Value, ErrorValue{2042});
+        sheet.get(names::Range, u"E1").put(names::Value, Currency{125000});
+        sheet.get(names::Range, u"E2").put(names::Value, Date{45000.5});
         sheet.get(names::Range, u"D2").call(MemberName(u"AddComment"), u"look here");
         book.get(names::Names).call(names::Add, u"Doubles", u"=Sheet1!$A$1:$A$3");
         const Object again = calc.reopened(book, file);
@@ -99,12 +101,15 @@ TEST_CASE("what cells hold beside values survives files of three kinds") {
         CHECK(range(u"C3").get(names::Formula) == (is_xls ? u"=NA()" : u"#N/A"));
         CHECK(range(u"C2").get(names::Value) == true);
         CHECK(range(u"C3").get(names::Value) == Variant(ErrorValue{2042}));
+        CHECK(range(u"E1").get(names::Value) == Variant(Currency{125000}));
+        CHECK(range(u"E1").get(names::Value2) == 12.5);
+        CHECK(range(u"E2").get(names::Value) == Variant(Date{45000.5}));
         CHECK(range(u"A1:C3").get(names::HasFormula) == Variant(Null{}));
         CHECK(range(u"D2").get(names::Comment).call(names::Text) == u"look here");
         CHECK(sheet.get(names::Comments).get(names::Count) == 1);
         CHECK(range(u"A1:A3").get(names::Name).get(names::Name) == u"Doubles");
         CHECK(range(u"Doubles").get(names::Address) == u"$A$1:$A$3");
-        CHECK(sheet.get(names::UsedRange).get(names::Address) == u"$A$1:$D$3");
+        CHECK(sheet.get(names::UsedRange).get(names::Address) == u"$A$1:$E$3");
         CHECK(error_of([&] { range(u"B2").put(names::Value, 1.0); }) == 1004);
         CHECK(range(u"B2").get(names::Value) == 40.0);
         CHECK(range(u"D2").get(names::Comment).get(names::Parent).get(names::Address) == u"$D$2");

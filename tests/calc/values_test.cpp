@@ -162,6 +162,55 @@ TEST_CASE("values survive files of three kinds") {
     }
 }
 
+TEST_CASE("a cell by itself reads as it does in an array") {
+    const Calc calc;
+    const Object book = calc.add_book();
+    Object sheet = book.get(names::Worksheets, 1);
+    std::int32_t row = 0;
+    for (const Variant& entered : {Variant(1.0),
+                                   Variant(0.0),
+                                   Variant(true),
+                                   Variant(Date{1.0}),
+                                   Variant(Currency{10000}),
+                                   Variant(u"text"),
+                                   Variant(u"'1"),
+                                   Variant(u"TRUE"),
+                                   Variant(ErrorValue{2042}),
+                                   Variant(u"=1=1"),
+                                   Variant(u"=2-1"),
+                                   Variant(u"=\"\""),
+                                   Variant(u"=\"x\""),
+                                   Variant(u"=1/0"),
+                                   Variant(u"=TRUE"),
+                                   Variant(u"=DATE(2020,1,1)"),
+                                   Variant(u"=A1"),
+                                   Variant(u"=A50"),
+                                   Variant(u"=NOT(A1)"),
+                                   Variant(u"=NA()"),
+                                   Variant(u"=A3")}) {
+        sheet.get(names::Cells, ++row, 1).put(names::Value, entered);
+    }
+    sheet.get(names::Range, u"A22:A23").put(names::FormulaArray, u"=A1:A2*2");
+    sheet.get(names::Range, u"A24").put(names::Formula, u"=5-4");
+    sheet.get(names::Range, u"A24").put(names::NumberFormat, u"m/d/yyyy");
+    for (const char* file : {"", "single.xlsx", "single.xls", "single.ods"}) {
+        CAPTURE(file);
+        if (*file) sheet = calc.reopened(sheet.get(names::Parent), file).get(names::Worksheets, 1);
+        for (const MemberName& member : {names::Value, names::Value2, names::Formula}) {
+            const Variant together = sheet.get(names::Range, u"A1:A25").get(member);
+            for (std::int32_t place = 1; place <= 25; ++place) {
+                CAPTURE(place);
+                CHECK(sheet.get(names::Cells, place, 1).get(member) ==
+                      together.array()->at(static_cast<std::size_t>(place - 1)));
+            }
+        }
+    }
+    const Object formula = sheet.get(names::Range, u"A11");
+    const std::uint64_t before = host_calls;
+    CHECK(formula.get(names::Value2) == 1.0);
+    CHECK(host_calls - before <= 10);
+}
+
 TEST_CASE("reading two hundred thousand cells takes a few calls") {
     const Calc calc;
     const Object sheet = calc.add_sheet();

@@ -195,45 +195,87 @@ class Reading {
     bool errors_ = false;
 };
 
-// One cell that is no formula, in as few calls as there can be; none for all else.
-std::optional<Variant> read_constant(const Sheet& sheet, const Cells& cells, Typing typing) {
-    const Ref<css::table::XCell> cell(cells);
-    if (!cell) return {};
-    switch (cell->getType()) {
-        case css::table::CellContentType_EMPTY:
-            return Empty{};
-        case css::table::CellContentType_TEXT:
-            return from_uno(value_of<rtl::OUString>(Ref<css::sheet::XCellRangeData>(cells)->getDataArray()[0][0]));
-        case css::table::CellContentType_VALUE: {
-            const double number = cell->getValue();
-            if (typing == Typing::plain && !is_zero_or_one(number)) return number;
-            const NumberKind kind = kind_of_format(sheet, get_property<sal_Int32>(cell, "NumberFormat"));
-            if (typing == Typing::plain && kind != NumberKind::boolean) return number;
-            return typed(number, kind, kind == NumberKind::date ? days_to_null_date(sheet) : 0);
-        }
-        default:
-            return {};
+// A single cell, read in as few calls as there can be.
+class SingleCell {
+  public:
+    SingleCell(const Sheet& sheet, const Cells& cells)
+        : sheet_(sheet), cells_(cells), cell_(cells), type_(cell_ ? cell_->getType() : CellType()) {}
+
+    // False for a range of more cells.
+    explicit operator bool() const { return bool(cell_); }
+    bool is_formula() const { return type_ == css::table::CellContentType_FORMULA; }
+
+    // None where a formula gives an error.
+    std::optional<Variant> value(Typing typing) const {
+        if (is_formula()) return result(typing);
+        if (type_ == css::table::CellContentType_EMPTY) return Empty{};
+        return type_ == css::table::CellContentType_TEXT ? text() : number(typing);
     }
-}
+
+    // In Calc's notation.
+    rtl::OUString formula() const { return cell_->getFormula(); }
+
+  private:
+    using CellType = css::table::CellContentType;
+
+    Variant text() const {
+        return from_uno(value_of<rtl::OUString>(Ref<css::sheet::XCellRangeData>(cells_)->getDataArray()[0][0]));
+    }
+
+    Variant number(Typing typing) const {
+        const double number = cell_->getValue();
+        if (typing == Typing::plain && !is_zero_or_one(number)) return number;
+        const NumberKind kind = kind_of_format(sheet_, get_property<sal_Int32>(cell_, "NumberFormat"));
+        if (typing == Typing::plain && kind != NumberKind::boolean) return number;
+        return typed(number, kind, kind == NumberKind::date ? days_to_null_date(sheet_) : 0);
+    }
+
+    std::optional<Variant> result(Typing typing) const {
+        const auto kind = get_property<sal_Int32>(cell_, "FormulaResultType2");
+        if (kind == css::sheet::FormulaResult::STRING) return text();
+        if (kind != css::sheet::FormulaResult::VALUE) return {};
+        Variant value = number(typing);
+        const double* plain = value.get_if<double>();
+        const bool may_be_truth = plain && is_zero_or_one(*plain);
+        if (may_be_truth && gives_boolean(view_of(formula()))) return *plain == 1;
+        return value;
+    }
+
+    const Sheet& sheet_;
+    const Cells& cells_;
+    Ref<css::table::XCell> cell_;
+    CellType type_;
+};
 
 }  // namespace
 
 Variant read_values(const Sheet& sheet, const Cells& cells, Typing typing) {
-    if (auto constant = read_constant(sheet, cells, typing)) return *std::move(constant);
+    if (const SingleCell cell(sheet, cells); cell) {
+        if (auto value = cell.value(typing)) return *std::move(value);
+    }
     return Reading(sheet, cells).values(typing);
 }
 
 Variant read_formulas(const Sheet& sheet, const Cells& cells) {
-    if (auto constant = read_constant(sheet, cells, Typing::plain)) {
-        make_text(*constant);
-        return *std::move(constant);
+    const SingleCell cell(sheet, cells);
+    if (!cell) return Reading(sheet, cells).formulas();
+    if (!cell.is_formula()) {
+        Variant constant = *cell.value(Typing::plain);
+        make_text(constant);
+        return constant;
     }
-    return Reading(sheet, cells).formulas();
+    const rtl::OUString text = cell.formula();
+    const std::u16string_view constant = constant_in(view_of(text));
+    return constant.empty() ? sheet.book.host->translator().to_excel(view_of(text)) : std::u16string(constant);
 }
 
 FormulaCounts count_formulas(const Sheet& sheet, const Cells& cells) {
-    if (read_constant(sheet, cells, Typing::plain)) return {.cells = 1};
-    return Reading(sheet, cells).counts();
+    const SingleCell cell(sheet, cells);
+    if (!cell) return Reading(sheet, cells).counts();
+    if (!cell.is_formula()) return {.cells = 1};
+    const rtl::OUString text = cell.formula();
+    const bool is_constant = !constant_in(view_of(text)).empty();
+    return {.cells = 1, .formulas = is_constant ? 0 : 1, .in_arrays = view_of(text).starts_with(u'{') ? 1 : 0};
 }
 
 }  // namespace qor::calc

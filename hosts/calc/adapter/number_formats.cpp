@@ -107,21 +107,13 @@ std::u16string bracket_of_excel(std::u16string_view part) {
     return is_time ? to_lower(part) : std::u16string(part.substr(0, 2)) + to_lower(part.substr(2));
 }
 
-// Files bring the sign of the dollar escaped or in quotes, which Excel does not show.
-std::size_t dollar_at(std::u16string_view code) {
-    for (const std::u16string_view dollar : {u"\\$", u"\"$\""}) {
-        if (code.starts_with(dollar)) return dollar.size();
-    }
-    return 0;
-}
-
 // Date letters come in capitals, colours too, and Booleans have a format of their own.
 std::u16string in_notation_of_excel(std::u16string_view code) {
     if (code == u"BOOLEAN") return u"General";
     std::u16string result;
     for (std::size_t i = 0; i < code.size();) {
         const char16_t c = code[i];
-        if (const std::size_t dollar = dollar_at(code.substr(i))) {
+        if (const std::size_t dollar = masked_dollar(code.substr(i))) {
             result += u'$';
             i += dollar;
         } else if (c == u'"') {

@@ -13,6 +13,23 @@
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
+namespace {
+
+bool holds_masked_dollar(std::u16string_view code) {
+    for (std::size_t i = 0; i < code.size(); ++i) {
+        if (masked_dollar(code.substr(i)) > 0) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+std::size_t masked_dollar(std::u16string_view code) {
+    for (const std::u16string_view dollar : {u"\\$", u"\"$\""}) {
+        if (code.starts_with(dollar)) return dollar.size();
+    }
+    return 0;
+}
 
 bool is_general_format(std::int32_t format_key) {
     constexpr std::int32_t keys_of_one_language = 10000;  // General is the first of them
@@ -23,11 +40,16 @@ NumberKind kind_of_format(const Sheet& sheet, std::int32_t format_key) {
     if (is_general_format(format_key)) return NumberKind::plain;
     namespace type = css::util::NumberFormat;
     const Ref formats{Ref<css::util::XNumberFormatsSupplier>(sheet.book.document)->getNumberFormats()};
-    const auto bits = get_property<sal_Int16>(Ref{formats->getByKey(format_key)}, "Type");
+    const Ref format{formats->getByKey(format_key)};
+    const auto bits = get_property<sal_Int16>(format, "Type");
     if (bits & type::LOGICAL) return NumberKind::boolean;
     if (bits & type::DATETIME) return NumberKind::date;
     if (bits & type::CURRENCY) return NumberKind::currency;
     if (bits & type::TEXT) return NumberKind::text;
+    if ((bits & type::NUMBER) != 0 &&
+        holds_masked_dollar(from_uno(get_property<rtl::OUString>(format, "FormatString")))) {
+        return NumberKind::currency;
+    }
     return NumberKind::plain;
 }
 

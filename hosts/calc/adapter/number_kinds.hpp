@@ -19,6 +19,10 @@ std::vector<KindOfCells> number_kinds(const Sheet& sheet, const Cells& cells);
 bool is_general_format(std::int32_t format_key);
 NumberKind kind_of_format(const Sheet& sheet, std::int32_t format_key);
 
+// The length of a dollar sign at the start of the code that a file brought escaped or in quotes, which Excel does not
+// show; 0 when there is none.
+std::size_t masked_dollar(std::u16string_view code);
+
 // Days from 30 December 1899 to the day that the workbook counts from.
 double days_to_null_date(const Sheet& sheet);
 
