@@ -40,6 +40,22 @@ unpack_packages() {
     done
 }
 
+# unpack_toolkit_headers FOLDER: the window toolkit's headers for every system, which only its source package holds.
+toolkit_source=wxwidgets3.2_3.2.2+dfsg.orig.tar.xz
+toolkit_sum=SHA256:e825125ac61f68548a3faae0fd5b3fc5377c0538961f02ac7cc2f0eae4e4f3e4
+unpack_toolkit_headers() {
+    local folder=$1 pool
+    [ -d "$folder/include" ] && return 0
+    pool=$(apt-get download --print-uris libwxgtk3.2-dev | sed -nE "s|^'([^']*)/[^/']*'.*|\\1|p")
+    rm -rf "$folder" && mkdir -p "$folder" &&
+        /usr/lib/apt/apt-helper download-file "$pool/$toolkit_source" "$folder/source.tar.xz" "$toolkit_sum" >/dev/null &&
+        tar -xf "$folder/source.tar.xz" -C "$folder" --strip-components 1 --wildcards '*/include/wx' &&
+        rm "$folder/source.tar.xz" || {
+        echo "The toolkit's headers could not be unpacked" >&2
+        return 3
+    }
+}
+
 build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev libfmt-dev
     libreoffice-calc libreoffice-dev librsvg2-bin optipng libwxgtk3.2-dev libgtk-3-dev
     doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev)  # the last four: configuring looks at tests and bench too

@@ -49,14 +49,16 @@ constexpr std::array<long, 5> icons{wxICON_NONE, wxICON_ERROR, wxICON_QUESTION, 
 
 long style_of(const MessageBox& message, std::span<const Answer> offered) {
     long style = icons.at(static_cast<std::size_t>(message.icon)) | wxCENTRE;
+    // The toolkit's flags have a sign on some systems only.
+    const auto add = [&](auto flag) { style |= static_cast<long>(flag); };
     for (const Answer& button : offered) {
-        style |= button.id == wxID_OK ? wxOK : button.id == wxID_CANCEL ? wxCANCEL : wxYES_NO;
+        add(button.id == wxID_OK ? wxOK : button.id == wxID_CANCEL ? wxCANCEL : wxYES_NO);
     }
     const std::size_t place = std::min<std::size_t>(message.default_button, offered.size() - 1);
     const int chosen = offered[place].id;
-    if (chosen == wxID_NO) style |= wxNO_DEFAULT;
-    if (chosen == wxID_CANCEL) style |= wxCANCEL_DEFAULT;
-    if (message.open_help) style |= wxHELP;
+    if (chosen == wxID_NO) add(wxNO_DEFAULT);
+    if (chosen == wxID_CANCEL) add(wxCANCEL_DEFAULT);
+    if (message.open_help) add(wxHELP);
     return style;
 }
 
