@@ -22,6 +22,33 @@ TEST_CASE("what is held of a sheet that is deleted raises an error, whatever it 
     CHECK(book.get(names::Worksheets).get(names::Count) == 1);
 }
 
+TEST_CASE("a sheet that goes away while a command runs is gone at once") {
+    const Calc calc;
+    const RunningCommand command;
+    const Object sheets = calc.add_book().get(names::Worksheets);
+    sheets.call(names::Add, Missing{}, Missing{}, 2);
+    const Object sheet = sheets.get(names::Item, 2);
+    const Object cell = sheet.get(names::Cells, 1, 1);
+    sheets.get(names::Item, 3).get(names::Range, u"A1").put(names::Value, u"next");
+    CHECK(cell.get(names::Value) == Variant(Empty{}));
+    calc.application.put(names::DisplayAlerts, false);
+    sheet.call(names::Delete);
+    CHECK(error_of([&] { cell.get(names::Value); }) == 1004);
+    CHECK(error_of([&] { sheet.get(names::Cells, 1, 1); }) == 1004);
+    const Object moved = sheets.get(names::Item, 2);
+    const Object kept = moved.get(names::Cells, 1, 1);
+    CHECK(kept.get(names::Value) == u"next");
+    moved.call(names::Move, sheets.get(names::Item, 1));
+    CHECK(kept.get(names::Value) == u"next");
+    CHECK(moved.get(names::Cells, 1, 1).get(names::Value) == u"next");
+    kept.get(names::EntireRow).call(names::Insert);
+    CHECK(moved.get(names::Cells, 1, 1).get(names::Value) == Variant(Empty{}));
+    CHECK(moved.get(names::Cells, 2, 1).get(names::Value) == u"next");
+    moved.get(names::Parent).call(names::Close, false);
+    CHECK(error_of([&] { kept.get(names::Value); }) == 1004);
+    CHECK(error_of([&] { moved.get(names::Cells, 1, 1); }) == 1004);
+}
+
 TEST_CASE("what is held of a workbook that is closed raises an error, whatever it is asked") {
     const Calc calc;
     const Object other = calc.add_sheet();

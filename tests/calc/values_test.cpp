@@ -1,4 +1,5 @@
 #include "hosts/calc/uno/ref.hpp"
+#include "hosts/calc/uno/running_command.hpp"
 #include "tests/calc/fixture.hpp"
 
 namespace qor::calc::tests {
@@ -205,6 +206,12 @@ TEST_CASE("a cell by itself reads as it does in an array") {
             }
         }
     }
+    const RunningCommand command;
+    const std::uint64_t before_all = host_calls;
+    for (std::int32_t place = 1; place <= 100; ++place) {
+        CHECK(sheet.get(names::Cells, place, 2).get(names::Value2) == Variant(Empty{}));
+    }
+    CHECK(host_calls - before_all <= 205);  // the cell and what it holds, for each
     const Object formula = sheet.get(names::Range, u"A11");
     const std::uint64_t before = host_calls;
     CHECK(formula.get(names::Value2) == 1.0);

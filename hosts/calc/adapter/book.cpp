@@ -74,17 +74,22 @@ Sheet::Sheet(Book of, Ref<css::sheet::XSpreadsheet> which) : book(std::move(of))
     Ways ways{Ref<css::sheet::XCellRangeAddressable>(sheet),
               Ref<css::sheet::XCellRangesAccess>(Ref{book.document->getSheets()}),
               Ref{Ref<css::drawing::XDrawPagesSupplier>(book.document)->getDrawPages()},
+              {},
               {}};
     ways.page = page_at(ways.pages, ways.place->getRangeAddress().Sheet);
-    ways_ = std::make_shared<const Ways>(std::move(ways));
+    ways_ = std::make_shared<Ways>(std::move(ways));
 }
 
 std::u16string Sheet::name() const {
     return from_uno(Ref<css::container::XNamed>(sheet)->getName());
 }
 
+css::table::CellRangeAddress Sheet::place() const {
+    return is_seen() ? ways_->seen.place : ways_->place->getRangeAddress();
+}
+
 std::int32_t Sheet::index() const {
-    return ways_->place->getRangeAddress().Sheet;
+    return place().Sheet;
 }
 
 DrawPage Sheet::page() const {
@@ -92,16 +97,19 @@ DrawPage Sheet::page() const {
 }
 
 void Sheet::require_alive() const {
-    if (!(page() == ways_->page)) throw Error(ErrorNumber::host_refused);
+    if (is_seen()) return;
+    const css::table::CellRangeAddress now = ways_->place->getRangeAddress();
+    if (!(page_at(ways_->pages, now.Sheet) == ways_->page)) throw Error(ErrorNumber::host_refused);
+    ways_->seen = {host_calls, now};
 }
 
 Ref<css::table::XCellRange> Sheet::cells(std::int32_t left, std::int32_t top, std::int32_t right,
                                          std::int32_t bottom) const {
-    const css::table::CellRangeAddress place = ways_->place->getRangeAddress();
+    const OnlyReads reads(*this);
+    const css::table::CellRangeAddress now = place();
     // Where cells are deleted, the object that stands for the sheet loses rows or columns.
-    const bool within =
-        place.StartColumn == 0 && place.StartRow == 0 && place.EndColumn >= right && place.EndRow >= bottom;
-    if (!within) return ways_->cells->getCellRangeByPosition(left, top, right, bottom, place.Sheet);
+    const bool within = now.StartColumn == 0 && now.StartRow == 0 && now.EndColumn >= right && now.EndRow >= bottom;
+    if (!within) return ways_->cells->getCellRangeByPosition(left, top, right, bottom, now.Sheet);
     if (left != right || top != bottom) return sheet->getCellRangeByPosition(left, top, right, bottom);
     return Ref<css::table::XCellRange>(Ref{sheet->getCellByPosition(left, top)});
 }

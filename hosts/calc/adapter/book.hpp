@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "hosts/calc/adapter/host.hpp"
+#include "hosts/calc/uno/running_command.hpp"
 
 namespace qor::calc {
 
@@ -38,6 +39,21 @@ struct Book {
 
 // One worksheet of a workbook.
 struct Sheet {
+    // While it lives, the calls into the office only read: what was seen of the sheet before them holds after them.
+    class OnlyReads {
+      public:
+        explicit OnlyReads(const Sheet& sheet) : sheet_(sheet), seen_(sheet.is_seen()) {}
+        OnlyReads(const OnlyReads&) = delete;
+        OnlyReads& operator=(const OnlyReads&) = delete;
+        ~OnlyReads() {
+            if (seen_) sheet_.ways_->seen.at_call = host_calls;
+        }
+
+      private:
+        const Sheet& sheet_;
+        bool seen_;
+    };
+
     Sheet(Book of, Ref<css::sheet::XSpreadsheet> which);
 
     Book book;
@@ -55,6 +71,11 @@ struct Sheet {
                                       std::int32_t bottom) const;
 
   private:
+    // That it was there, and its place, at that number of calls into the office.
+    struct Seen {
+        std::uint64_t at_call = 0;
+        css::table::CellRangeAddress place;
+    };
     // What is asked for again and again.
     struct Ways {
         Ref<css::sheet::XCellRangeAddressable> place;
@@ -63,8 +84,14 @@ struct Sheet {
         // The office goes on answering for a sheet that was deleted, out of the one that took its place; only the page
         // that is found there is another one.
         DrawPage page;
+        Seen seen;
     };
-    std::shared_ptr<const Ways> ways_;
+
+    // While a command runs, nothing changes but by calls into the office.
+    bool is_seen() const { return RunningCommand::any() && ways_->seen.at_call == host_calls; }
+    css::table::CellRangeAddress place() const;
+
+    std::shared_ptr<Ways> ways_;
 };
 
 // The open workbook of that name; raises 9 when there is none.

@@ -199,7 +199,7 @@ class Reading {
 class SingleCell {
   public:
     SingleCell(const Sheet& sheet, const Cells& cells)
-        : sheet_(sheet), cells_(cells), cell_(cells), type_(cell_ ? cell_->getType() : CellType()) {}
+        : reads_(sheet), sheet_(sheet), cells_(cells), cell_(cells), type_(cell_ ? cell_->getType() : CellType()) {}
 
     // False for a range of more cells.
     explicit operator bool() const { return bool(cell_); }
@@ -241,6 +241,7 @@ class SingleCell {
         return value;
     }
 
+    Sheet::OnlyReads reads_;
     const Sheet& sheet_;
     const Cells& cells_;
     Ref<css::table::XCell> cell_;
