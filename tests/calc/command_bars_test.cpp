@@ -331,6 +331,11 @@ TEST_CASE("a drop-down list on a toolbar") {
     list.put(names::ListIndex, 2);
     CHECK(list.get(names::ListIndex) == 2);
     CHECK(list.get(names::Text) == u"second");
+    list.put(names::List, 2, u"another");
+    CHECK(list.get(names::List, 2) == u"another");
+    CHECK(list.get(names::Text) == u"another");
+    CHECK(error_of([&] { list.put(names::List, 3, u"beyond"); }) == 5);
+    list.put(names::List, 2, u"second");
     list.call(names::RemoveItem, 1);
     CHECK(list.get(names::ListIndex) == 1);
     CHECK(list.get(names::Text) == u"second");

@@ -79,6 +79,7 @@ void rename_sheet(const Sheet& sheet, std::u16string_view name) {
     if (name.empty() || name.size() > longest_name) refused();
     if (name.find_first_of(u":\\/?*[]") != std::u16string_view::npos) refused();
     if (name.front() == u'\'' || name.back() == u'\'') refused();
+    if (equal_ignoring_case(name, u"History")) refused();  // Excel keeps it for its list of changes
     const std::u16string old_name = sheet.name();
     if (old_name == name) return;
     if (!equal_ignoring_case(old_name, name) && names_in_capitals(sheet.book).contains(to_upper(name))) refused();
