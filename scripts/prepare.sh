@@ -73,5 +73,6 @@ build() {
     local preset=$1
     shift
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
-    cmake --build "build/$preset" ${1:+--target "$@"}
+    # What an earlier state of the project built goes, or it would be tested, too.
+    cmake --build "build/$preset" ${1:+--target "$@"} && ninja -C "build/$preset" -t cleandead >/dev/null
 }

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # wine.sh PREFIX PROGRAM [ARG...]: runs a Windows program under Wine without a display, in a prefix that is made when it
-# is not there. Windows are made all the same, and drawn nowhere. The output goes through files, because Wine's own processes inherit what they are started with: they
-# would keep a pipe open, and whoever reads it waiting, long after the program's end.
+# is not there. Windows are made all the same, and drawn nowhere. The output goes through files, because Wine's own
+# processes inherit what they are started with: they would keep a pipe open, and whoever reads it waiting, long after the
+# program's end.
 set -u
 mkdir -p "$1"
 WINEPREFIX=$(realpath "$1") || exit 125
@@ -15,10 +16,10 @@ output=$(mktemp -d) || exit 125
 trap 'rm -rf "$output"' EXIT
 (
     flock 9
-    [ -f "$WINEPREFIX/.made" ] || {
+    [ -f "$WINEPREFIX/.drawn-nowhere" ] || {
         "$wine" wineboot --init 9>&- &&
             "$wine" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f 9>&- &&
-            /usr/lib/wine/wineserver64 -k 9>&- && touch "$WINEPREFIX/.made"
+            /usr/lib/wine/wineserver64 -k 9>&- && touch "$WINEPREFIX/.drawn-nowhere"
     }
 ) 9>"$WINEPREFIX/.lock" >"$output/boot" 2>&1 </dev/null || {
     cat "$output/boot" >&2
