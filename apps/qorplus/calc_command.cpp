@@ -9,7 +9,7 @@
 
 #include "apps/qorplus/office_library.hpp"
 #include "apps/qorplus/usage_error.hpp"
-#include "core/product.hpp"
+#include "ground/product.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
 #include "platform/user_folders.hpp"

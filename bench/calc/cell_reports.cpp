@@ -7,7 +7,7 @@
 
 #include "bench/calc/tool_workload.hpp"
 #include "bench/walk/cell_walk.hpp"
-#include "hosts/calc/adapter/host.hpp"
+#include "hosts/calc/adapter/ground/host.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor::bench {

@@ -1,7 +1,7 @@
 // The benchmarks as a program that runs inside LibreOffice.
 #include "bench/calc/cases.hpp"
 #include "bench/ratio_report.hpp"
-#include "hosts/calc/uno/batch_job.hpp"
+#include "tests/batch/batch_job.hpp"
 
 namespace {
 

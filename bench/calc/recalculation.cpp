@@ -10,8 +10,8 @@
 #include "automation/member_names.hpp"
 #include "bench/calc/cases.hpp"
 #include "functions/registry.hpp"
-#include "hosts/calc/adapter/application.hpp"
-#include "hosts/calc/adapter/host.hpp"
+#include "hosts/calc/adapter/ground/host.hpp"
+#include "hosts/calc/adapter/objects/application/application.hpp"
 #include "hosts/calc/uno/text.hpp"
 
 namespace qor::bench {

@@ -2,9 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "core/MMain.hpp"
-#include "hosts/calc/adapter/application.hpp"
-#include "hosts/calc/adapter/undo_step.hpp"
+#include "ground/MMain.hpp"
+#include "hosts/calc/adapter/ground/undo_step.hpp"
+#include "hosts/calc/adapter/objects/application/application.hpp"
 #include "hosts/calc/uno/ref.hpp"
 #include "runtime/conversion.hpp"
 

@@ -1,7 +1,7 @@
 // The benchmarks of what a user sees, as a program that runs inside a LibreOffice with windows.
 #include "bench/calc_window/cases.hpp"
 #include "bench/ratio_report.hpp"
-#include "hosts/calc/uno/batch_job.hpp"
+#include "tests/batch/batch_job.hpp"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include "automation/member_names.hpp"
 #include "bench/calc_window/cases.hpp"
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
-#include "hosts/calc/adapter/application.hpp"
+#include "ground/MMain.hpp"
+#include "hosts/calc/adapter/objects/application/application.hpp"
 #include "platform/ini_settings_store.hpp"
 #include "screens/wx/wx_screen.hpp"
 

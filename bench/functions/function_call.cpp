@@ -8,8 +8,8 @@
 #include "bench/functions/cases.hpp"
 #include "bench/ratio_report.hpp"
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
 #include "functions/registry.hpp"
+#include "ground/MMain.hpp"
 #include "platform/ini_settings_store.hpp"
 #include "screens/script/script_screen.hpp"
 

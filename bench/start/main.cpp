@@ -17,13 +17,13 @@
 #include <thread>
 
 #include "hosts/calc/bars/module_ui.hpp"
-#include "hosts/calc/batch/virtual_display.hpp"
 #include "hosts/calc/office/office_pipe.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
 #include "hosts/calc/office/process/office_process.hpp"
 #include "hosts/calc/uno/ref.hpp"
 #include "hosts/calc/uno/text.hpp"
+#include "tests/batch/virtual_display.hpp"
 
 namespace {
 

@@ -1,16 +1,18 @@
 #include <algorithm>
 
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
 #include "core/MMenu.hpp"
-#include "core/all_workbooks.hpp"
 #include "core/reactions.hpp"
-#include "core/recent_files.hpp"
-#include "core/scroll_areas.hpp"
 #include "core/tool_launch.hpp"
 #include "core/web_and_mail.hpp"
 #include "functions/registry.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/bind.hpp"
+#include "workbooks/all_workbooks.hpp"
+#include "workbooks/last_cell.hpp"
+#include "workbooks/recent_files.hpp"
+#include "workbooks/scroll_areas.hpp"
+#include "workbooks/window_captions.hpp"
 
 namespace qor {
 namespace {

@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
 #include "core/bookmark_list.hpp"
 #include "core/menu_table.hpp"
-#include "core/product.hpp"
 #include "core/toolbar_places.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
 #include "core/bookmark_list.hpp"
-#include "core/product.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CFile.hpp"

@@ -1,8 +1,8 @@
 #include "core/bookmark_list.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
-#include "core/product.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 #include "runtime/conversion.hpp"
 #include "services/CFile.hpp"
 #include "stores/CBookmark.hpp"

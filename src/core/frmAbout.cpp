@@ -1,6 +1,6 @@
 #include "core/frmAbout.hpp"
 
-#include "core/product.hpp"
+#include "ground/product.hpp"
 #include "platform/text.hpp"
 
 namespace qor {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/tool_form.hpp"
+#include "ground/tool_form.hpp"
 #include "ui/button.hpp"
 #include "ui/label.hpp"
 

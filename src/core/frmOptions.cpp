@@ -1,11 +1,11 @@
 #include "core/frmOptions.hpp"
 
-#include "core/CReg.hpp"
-#include "core/reactions.hpp"
+#include "ground/CReg.hpp"
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDiag.hpp"
+#include "workbooks/window_captions.hpp"
 
 namespace qor {
 namespace {

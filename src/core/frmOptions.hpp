@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "core/tool_form.hpp"
+#include "ground/tool_form.hpp"
 #include "services/ctlBrowse.hpp"
 #include "services/ctlDiag.hpp"
 #include "services/ctlSpinner.hpp"

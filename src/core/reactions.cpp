@@ -4,15 +4,15 @@
 #include <array>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
-#include "core/boolean_option.hpp"
-#include "core/empty_worksheets.hpp"
-#include "core/product.hpp"
-#include "core/text_option.hpp"
+#include "ground/MMain.hpp"
+#include "ground/boolean_option.hpp"
+#include "ground/product.hpp"
+#include "ground/text_option.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDrive.hpp"
 #include "services/CFile.hpp"
+#include "workbooks/empty_worksheets.hpp"
 
 namespace qor {
 namespace {

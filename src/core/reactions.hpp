@@ -10,12 +10,8 @@ namespace qor {
 // Arranges the windows in the user's style, after a workbook has been opened.
 void QAutoUpdateWindowPositions();
 void QOptionDeleteEmptyWorksheets(const std::optional<std::u16string>& sWorkbookName);
-// Gives every workbook with one window a caption: its name, or its full path.
-void QUpdateWindowCaption();
 // Keeps the scroll areas of the worksheets in document properties of their names ("SAVE"), or sets them from there.
 void QScrollableArea(const std::u16string& sWorkbookName, const std::u16string& sAction);
-// Deletes the rows and columns behind the last content of each worksheet of the active workbook. Raises nothing.
-void QResLasCelEacWor();
 // Copies the workbook into the backup folder, before it is saved. False when it ends early, since there is no such
 // folder or the workbook has no file yet.
 bool QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName);

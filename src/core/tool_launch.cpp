@@ -1,8 +1,8 @@
 #include "core/tool_launch.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
-#include "core/product.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 
 namespace qor {
 namespace {

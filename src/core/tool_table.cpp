@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "reports/frmCellInfo.hpp"
-#include "reports/frmDtRev.hpp"
-#include "reports/frmWBSum.hpp"
-#include "reports/frmWKSum.hpp"
+#include "reports/report_forms.hpp"
 #include "tools/sheets/frmAddWk.hpp"
 #include "tools/sheets/frmDelWk.hpp"
 #include "tools/sheets/frmNav.hpp"

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "automation/member_name.hpp"
-#include "core/tool_form.hpp"
+#include "ground/tool_form.hpp"
 
 namespace qor {
 

@@ -1,8 +1,8 @@
 #include "core/toolbar_places.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/CReg.hpp"
-#include "core/MMain.hpp"
+#include "ground/CReg.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 

@@ -1,7 +1,7 @@
 #include "core/web_and_mail.hpp"
 
 #include "automation/error.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "runtime/trim.hpp"
 

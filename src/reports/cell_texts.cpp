@@ -1,7 +1,7 @@
 #include "reports/cell_texts.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {

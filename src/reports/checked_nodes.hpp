@@ -11,12 +11,10 @@ namespace qor {
 // cannot be told has an empty one.
 template <class Visit>
 void for_each_checked_worksheet(const ctlTree& tree, Visit visit) {
-    for (std::size_t index = 1; index <= tree.treQOR.count(); ++index) {
-        const TreeNode& node = tree.treQOR.node(index);
-        if (node.level() != 3 || node.image() != ctlTree::checked) continue;
+    for (const TreeNode* node : tree.checked_nodes(3)) {
         std::u16string workbook_name;
-        attempt([&] { workbook_name = to_text(node.parent()->tag()); });
-        visit(workbook_name, node.text());
+        attempt([&] { workbook_name = to_text(node->parent()->tag()); });
+        visit(workbook_name, node->text());
     }
 }
 

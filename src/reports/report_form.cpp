@@ -7,7 +7,7 @@ constexpr int drag_picture = 3;  // of the list's pictures: 1 unchecked, 2 check
 
 }  // namespace
 
-ReportForm::ReportForm(std::u16string_view name) : TreeForm(name) {
+ReportForm::ReportForm(const ReportKind& kind) : TreeForm(kind.form), kind_(kind) {
     connect(ctlTreeView, cmdButton);
     treCellInfo.on_picture_click = [this](TreeNode& row) { row.set_image(fields_.toggle(row.key())); };
     treCellInfo.on_mouse_down = [this](const Pointer& pointer) { pointer_down(pointer); };
@@ -18,7 +18,7 @@ ReportForm::ReportForm(std::u16string_view name) : TreeForm(name) {
 
 void ReportForm::on_load() {
     TreeForm::on_load();
-    fields_ = all_fields();
+    fields_ = kind_.fields();
     fill_list();
 }
 
@@ -56,7 +56,7 @@ void ReportForm::drop() {
 
 void ReportForm::work() {
     hide();
-    with_progress([&] { write_report(fields_.checked_headings()); });
+    with_progress([&] { kind_.write(ctlTreeView, fields_.checked_headings()); });
 }
 
 }  // namespace qor

@@ -7,10 +7,19 @@
 
 namespace qor {
 
+// What makes the dialog of a report its own.
+struct ReportKind {
+    std::u16string_view form;
+    ReportFields (*fields)();  // in their starting order
+    void (*write)(ctlTree& tree, std::span<const std::u16string> headings);
+};
+
 // The dialog of a report: the list of its fields on the left, the tree of workbooks and worksheets on the right.
-// It knows fields and their order; the tree's member knows the host. Nothing of the user's choice is kept.
+// It knows fields and their order; what writes the report knows the host. Nothing of the user's choice is kept.
 class ReportForm : public TreeForm {
   public:
+    explicit ReportForm(const ReportKind& kind);
+
     TreeView treCellInfo{*this, u"treCellInfo"};
     ctlTree ctlTreeView{*this, u"ctlTreeView"};
     Buttons cmdButton{*this, u"cmdButton", {{0, u"OK"}, {1, u"Cancel"}, {4, u"Help"}}};
@@ -18,11 +27,6 @@ class ReportForm : public TreeForm {
     std::u16string_view layout() const noexcept final { return u"report"; }
 
   protected:
-    explicit ReportForm(std::u16string_view name);
-
-    virtual ReportFields all_fields() const = 0;
-    virtual void write_report(std::span<const std::u16string> headings) = 0;
-
     void on_load() final;
     void on_unload() final;
 
@@ -34,6 +38,7 @@ class ReportForm : public TreeForm {
     void drop();
     void work() final;
 
+    const ReportKind& kind_;
     ReportFields fields_;
     const TreeNode* dragged_ = nullptr;
 };

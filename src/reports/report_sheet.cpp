@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
-#include "core/boolean_option.hpp"
+#include "ground/MMain.hpp"
+#include "ground/boolean_option.hpp"
 #include "reports/cell_area.hpp"
 #include "runtime/clock.hpp"
 #include "runtime/conversion.hpp"

@@ -1,7 +1,7 @@
 #include "reports/reported_sheet.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 
 namespace qor {
 namespace {

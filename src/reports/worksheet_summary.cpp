@@ -4,7 +4,7 @@
 #include <array>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/rounding.hpp"
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "automation/error.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "platform/files.hpp"
 #include "runtime/trim.hpp"
 #include "services/CFile.hpp"

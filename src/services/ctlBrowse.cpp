@@ -1,8 +1,8 @@
 #include "services/ctlBrowse.hpp"
 
 #include "automation/error.hpp"
-#include "core/MMain.hpp"
-#include "core/product.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDiag.hpp"
 #include "services/CFile.hpp"

@@ -1,7 +1,7 @@
 #include "services/ctlCellRef.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 #include "services/cell_address.hpp"
 

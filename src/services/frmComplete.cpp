@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "core/MMain.hpp"
-#include "core/product.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 #include "runtime/rounding.hpp"
 
 namespace qor {

@@ -1,8 +1,8 @@
 #include "tree/ctlTree.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
-#include "core/boolean_option.hpp"
+#include "ground/MMain.hpp"
+#include "ground/boolean_option.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {

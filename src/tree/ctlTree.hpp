@@ -1,7 +1,5 @@
 #pragma once
 
-#include <span>
-
 #include "ui/form.hpp"
 #include "ui/tree_view.hpp"
 
@@ -28,27 +26,14 @@ class ctlTree {
     // How many nodes of that level are checked.
     std::int32_t CountCheckBoxes(std::int32_t Level) const;
 
-    // Inserts so many worksheets into the workbook of each checked window, before or behind all others. Below 1: none.
-    void AddWk(std::int32_t Number, bool AtBeginning);
-    // Deletes the checked worksheets that are empty.
-    void DelEmpWor();
-    // Brings the worksheets of each checked window's workbook into the order of their names.
-    void SorWor(bool Ascending);
-    // Runs the host's spelling check over each checked worksheet, or over its cells only.
-    void SpeCheAll(bool IgnoreHeadersFooters);
-
-    // The reports on what is checked, each with these headings as its columns: on the cells of worksheets, on those
-    // that are dates, on workbooks and on worksheets.
-    void CellInfo(std::span<const std::u16string> Fields);
-    void DtRev(std::span<const std::u16string> Fields);
-    void WBSum(std::span<const std::u16string> Fields);
-    void WkSum(std::span<const std::u16string> Fields);
+    // Those of that level, in index order.
+    std::vector<TreeNode*> checked_nodes(std::int32_t level) const;
 
     // The form is to close.
     Event<bool> RequestClose;
     // After every click into a check box: whether anything is checked.
     Event<bool> CheckStateChanged;
-    // After each item of a batch operation: done, total.
+    // After each item of a job on what is checked: done, total.
     Event<std::int32_t, std::int32_t> Progress;
 
   private:
@@ -66,8 +51,6 @@ class ctlTree {
     void propagate_window(TreeNode& window_node);
     void propagate_worksheet(TreeNode& sheet_node);
     bool is_window_checked() const;
-    // Those of that level, in index order.
-    std::vector<TreeNode*> checked_nodes(std::int32_t level) const;
 
     void forget_nodes();
     void show_menu();

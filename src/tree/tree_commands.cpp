@@ -3,10 +3,10 @@
 #include <array>
 
 #include "automation/member_names.hpp"
-#include "core/all_workbooks.hpp"
 #include "runtime/conversion.hpp"
 #include "tree/ctlTree.hpp"
 #include "tree/tree_nodes.hpp"
+#include "workbooks/all_workbooks.hpp"
 
 namespace qor {
 

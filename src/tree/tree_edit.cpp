@@ -2,8 +2,8 @@
 #include <optional>
 
 #include "automation/member_names.hpp"
-#include "core/host_state.hpp"
-#include "core/product.hpp"
+#include "ground/host_state.hpp"
+#include "ground/product.hpp"
 #include "runtime/conversion.hpp"
 #include "tree/ctlTree.hpp"
 #include "tree/tree_nodes.hpp"

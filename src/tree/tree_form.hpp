@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/tool_form.hpp"
+#include "ground/tool_form.hpp"
 #include "services/frmComplete.hpp"
 #include "tree/ctlTree.hpp"
 #include "ui/button.hpp"

@@ -1,7 +1,7 @@
 #include "tree/tree_nodes.hpp"
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 
 namespace qor {
 

@@ -2,7 +2,7 @@
 
 #include <fstream>
 
-#include "core/product.hpp"
+#include "ground/product.hpp"
 #include "platform/text.hpp"
 #include "tests/calc_user/users_calc.hpp"
 

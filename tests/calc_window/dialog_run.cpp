@@ -4,9 +4,9 @@
 #include <cstdlib>
 
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
-#include "hosts/calc/companion/office/loaded_screen.hpp"
-#include "tests/calc/office_loop.hpp"
+#include "ground/MMain.hpp"
+#include "hosts/calc/companion/loaded_screen.hpp"
+#include "tests/calc/support/office_loop.hpp"
 #include "tests/window/hand.hpp"
 
 namespace qor::calc::tests {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/ini_settings_store.hpp"
-#include "tests/calc/fixture.hpp"
+#include "tests/calc/support/fixture.hpp"
 #include "tests/wx/user.hpp"
 
 namespace qor::calc::tests {

@@ -5,8 +5,8 @@
 
 #include "hosts/calc/bars/module_ui.hpp"
 #include "hosts/calc/events/open_dialog.hpp"
-#include "tests/calc/fixture.hpp"
-#include "tests/calc/office_loop.hpp"
+#include "tests/calc/support/fixture.hpp"
+#include "tests/calc/support/office_loop.hpp"
 #include "tests/calc_window/pointer.hpp"
 
 namespace qor::calc::tests {

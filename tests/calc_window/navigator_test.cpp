@@ -1,4 +1,4 @@
-#include "tests/calc/sheet_names.hpp"
+#include "tests/calc/support/sheet_names.hpp"
 #include "tests/calc_window/dialog_run.hpp"
 #include "tests/window/hand.hpp"
 

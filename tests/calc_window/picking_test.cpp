@@ -1,13 +1,13 @@
 #include <thread>
 
-#include "core/MMain.hpp"
-#include "hosts/calc/adapter/application.hpp"
-#include "hosts/calc/adapter/office_user.hpp"
+#include "ground/MMain.hpp"
+#include "hosts/calc/adapter/objects/application/application.hpp"
+#include "hosts/calc/adapter/user/office_user.hpp"
 #include "platform/ini_settings_store.hpp"
 #include "screens/wx/wx_screen.hpp"
 #include "services/ctlCellRef.hpp"
-#include "tests/calc/fixture.hpp"
-#include "tests/calc/office_loop.hpp"
+#include "tests/calc/support/fixture.hpp"
+#include "tests/calc/support/office_loop.hpp"
 #include "tests/window/hand.hpp"
 #include "tests/wx/user.hpp"
 #include "ui/button.hpp"

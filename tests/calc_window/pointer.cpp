@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "tests/calc/office_loop.hpp"
+#include "tests/calc/support/office_loop.hpp"
 
 namespace qor::calc::tests {
 namespace {

@@ -8,9 +8,9 @@
 #include <nlohmann/json.hpp>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
 #include "core/tool_table.hpp"
 #include "functions/registry.hpp"
+#include "ground/MMain.hpp"
 #include "screens/script/script_screen.hpp"
 #include "tests/fakes/memory_settings.hpp"
 

@@ -2,12 +2,12 @@
 
 #include "automation/member_names.hpp"
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
-#include "core/empty_worksheets.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 #include "tests/fakes/fake_object.hpp"
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/memory_settings.hpp"
+#include "workbooks/empty_worksheets.hpp"
 
 using namespace qor;
 

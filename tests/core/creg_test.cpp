@@ -1,10 +1,10 @@
-#include "core/CReg.hpp"
+#include "ground/CReg.hpp"
 
 #include <doctest/doctest.h>
 
 #include <string>
 
-#include "core/product.hpp"
+#include "ground/product.hpp"
 #include "platform/ini_settings_store.hpp"
 #include "platform/text.hpp"
 #include "tests/platform/temporary_folder.hpp"

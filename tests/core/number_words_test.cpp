@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/fake_settings.hpp"
 #include "tests/runtime/raised.hpp"

@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "core/MMain.hpp"
 #include "core/frmOptions.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/memory_settings.hpp"

@@ -5,8 +5,8 @@
 
 #include "automation/member_names.hpp"
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
 #include "core/frmOptions.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "screens/script/script_screen.hpp"
 #include "tests/fakes/fake_object.hpp"

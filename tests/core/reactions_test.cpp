@@ -4,7 +4,7 @@
 
 #include "automation/member_names.hpp"
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "tests/fakes/fake_object.hpp"
 #include "tests/fakes/fake_screen.hpp"

@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/memory_settings.hpp"
 #include "ui/button.hpp"

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "hosts/excel/com/ole.hpp"
 #include "hosts/excel/com/ole_error.hpp"
 #include "hosts/excel/com/served_object.hpp"

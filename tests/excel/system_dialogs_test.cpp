@@ -4,7 +4,7 @@
 #include <functional>
 #include <thread>
 
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "hosts/excel/com/ole.hpp"
 #include "hosts/excel/screen/system_screen.hpp"
 #include "platform/windows/system_text.hpp"

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "reports/frmWKSum.hpp"
+#include "reports/report_forms.hpp"
 #include "tests/reports/report_host.hpp"
 
 using namespace qor;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/clock.hpp"
 #include "tests/fakes/fake_grid.hpp"
 #include "tests/fakes/fake_screen.hpp"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "reports/reports.hpp"
 #include "reports/worksheet_summary.hpp"
 #include "runtime/compare.hpp"
 #include "tests/reports/report_host.hpp"
@@ -60,7 +61,7 @@ struct Summary : ReportHost {
         }
         log.calls = 0;
         log.failing_call = failing;
-        form.ctlTreeView.WkSum(headings);
+        WkSum(form.ctlTreeView, headings);
     }
 };
 
@@ -205,7 +206,7 @@ TEST_CASE_FIXTURE(Summary, "a sheet that has gone keeps its row, with its names 
     TreeNode& window = tree.add(&root, Relationship::child, u"model.xls:1", u"model.xls:1", 2);
     window.set_tag(u"model.xls");
     tree.add(&window, Relationship::child, u"model.xls:1*Gone", u"Gone", 2);
-    form.ctlTreeView.WkSum(all_headings());
+    WkSum(form.ctlTreeView, all_headings());
     CHECK(same(value(6, 1), u"model.xls"));
     CHECK(same(value(6, 2), u"Gone"));
     for (std::int32_t column = 3; column <= 12; ++column) CHECK(value(6, column).is_missing());

@@ -6,7 +6,7 @@
 
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
-#include "tests/calc/report_run.hpp"
+#include "tests/calc/support/report_run.hpp"
 
 namespace qor::calc::tests {
 namespace {

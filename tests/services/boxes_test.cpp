@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "services/ctlBrowse.hpp"
 #include "services/ctlDiag.hpp"

@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "services/cell_address.hpp"
 #include "services/ctlCellRef.hpp"
 #include "tests/fakes/fake_object.hpp"

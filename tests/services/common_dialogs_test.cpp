@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "automation/error.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "platform/text.hpp"
 #include "services/CDiag.hpp"
 #include "tests/fakes/fake_screen.hpp"

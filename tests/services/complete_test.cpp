@@ -4,7 +4,7 @@
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/fake_settings.hpp"
 
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 
 using namespace qor;
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "tests/fakes/fake_object.hpp"
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/fake_settings.hpp"

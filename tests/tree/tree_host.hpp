@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "automation/member_names.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 #include "tests/fakes/fake_object.hpp"
 #include "tests/fakes/fake_screen.hpp"

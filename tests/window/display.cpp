@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "hosts/calc/batch/virtual_display.hpp"
+#include "tests/batch/virtual_display.hpp"
 
 namespace qor::tests {
 namespace {

@@ -4,7 +4,7 @@
 #include <com/sun/star/frame/theGlobalEventBroadcaster.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
-#include "hosts/calc/adapter/selection.hpp"
+#include "hosts/calc/adapter/ground/selection.hpp"
 #include "hosts/calc/events/office_listener.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/running_command.hpp"

@@ -7,7 +7,7 @@
 #include <rtl/ref.hxx>
 #include <vector>
 
-#include "hosts/calc/adapter/host.hpp"
+#include "hosts/calc/adapter/ground/host.hpp"
 #include "hosts/calc/events/event_queue.hpp"
 #include "hosts/calc/events/host_events.hpp"
 

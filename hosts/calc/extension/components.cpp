@@ -1,7 +1,7 @@
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <cppuhelper/weak.hxx>
 
-#include "hosts/calc/companion/office/companion_service.hpp"
+#include "hosts/calc/companion/companion_service.hpp"
 #include "hosts/calc/functions/add_in.hpp"
 #include "hosts/calc/session/session_service.hpp"
 #include "hosts/calc/uno/sanitizer.hpp"

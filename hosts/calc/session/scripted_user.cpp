@@ -1,7 +1,7 @@
 #include "hosts/calc/session/scripted_user.hpp"
 
 #include "platform/text.hpp"
-#include "screens/script/session/script_shape.hpp"
+#include "session/script_shape.hpp"
 
 namespace qor::calc {
 

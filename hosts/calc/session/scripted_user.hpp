@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "hosts/calc/adapter/host_user.hpp"
+#include "hosts/calc/adapter/ground/host_user.hpp"
 #include "screens/script/script_screen.hpp"
 
 namespace qor::calc {

@@ -7,15 +7,15 @@
 #include <cppuhelper/supportsservice.hxx>
 #include <nlohmann/json.hpp>
 
-#include "hosts/calc/adapter/application.hpp"
-#include "hosts/calc/adapter/undo_step.hpp"
+#include "hosts/calc/adapter/ground/undo_step.hpp"
+#include "hosts/calc/adapter/objects/application/application.hpp"
 #include "hosts/calc/session/open_documents.hpp"
 #include "hosts/calc/session/scripted_user.hpp"
 #include "hosts/calc/uno/main_thread.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
 #include "screens/script/script_error.hpp"
-#include "screens/script/session/session.hpp"
+#include "session/session.hpp"
 
 namespace qor::calc {
 namespace {

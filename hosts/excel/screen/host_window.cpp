@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "automation/variant.hpp"
-#include "core/MMain.hpp"
+#include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor::excel {

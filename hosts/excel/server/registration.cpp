@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/product.hpp"
+#include "ground/product.hpp"
 #include "hosts/excel/com/ole.hpp"
 #include "hosts/excel/server/identity.hpp"
 #include "platform/windows/registry_key.hpp"

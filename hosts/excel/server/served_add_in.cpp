@@ -1,8 +1,8 @@
 #include "hosts/excel/server/served_add_in.hpp"
 
 #include "core/CCom.hpp"
-#include "core/MMain.hpp"
-#include "core/product.hpp"
+#include "ground/MMain.hpp"
+#include "ground/product.hpp"
 #include "hosts/excel/com/ole_error.hpp"
 #include "hosts/excel/screen/face_bitmaps.hpp"
 #include "hosts/excel/screen/system_screen.hpp"

@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "core/CCom.hpp"
-#include "core/product.hpp"
+#include "ground/product.hpp"
 #include "hosts/excel/com/ole.hpp"
 #include "hosts/excel/server/identity.hpp"
 #include "platform/text.hpp"

@@ -1,14 +1,15 @@
+#include "tools/sheets/AddWk.hpp"
+
 #include "automation/member_names.hpp"
-#include "tree/ctlTree.hpp"
 #include "tree/tree_nodes.hpp"
 
 namespace qor {
 
-void ctlTree::AddWk(std::int32_t Number, bool AtBeginning) {
+void AddWk(ctlTree& tree, std::int32_t Number, bool AtBeginning) {
     if (Number < 1) return;
-    const std::int32_t total = CountCheckBoxes(2);
+    const std::int32_t total = tree.CountCheckBoxes(2);
     std::int32_t done = 0;
-    for (const TreeNode* node : checked_nodes(2)) {
+    for (const TreeNode* node : tree.checked_nodes(2)) {
         attempt([&] {
             const Object worksheets = workbook_of(*node).get(names::Worksheets);
             const Variant place = AtBeginning ? Variant(1) : worksheets.get(names::Count);
@@ -16,7 +17,7 @@ void ctlTree::AddWk(std::int32_t Number, bool AtBeginning) {
                             named(AtBeginning ? names::Before : names::After, worksheets.get(names::Item, place)),
                             named(names::Count, Number));
         });
-        Progress(++done, total);
+        tree.Progress(++done, total);
     }
 }
 

@@ -1,10 +1,11 @@
+#include "tools/sheets/SorWor.hpp"
+
 #include <algorithm>
 #include <vector>
 
 #include "automation/member_names.hpp"
 #include "runtime/conversion.hpp"
 #include "services/CSort.hpp"
-#include "tree/ctlTree.hpp"
 #include "tree/tree_nodes.hpp"
 
 namespace qor {
@@ -33,17 +34,17 @@ void bring_to_front(const Object& worksheets, const Variant& name) {
 
 }  // namespace
 
-void ctlTree::SorWor(bool Ascending) {
-    const std::int32_t total = CountCheckBoxes(2);
+void SorWor(ctlTree& tree, bool Ascending) {
+    const std::int32_t total = tree.CountCheckBoxes(2);
     std::int32_t done = 0;
-    for (const TreeNode* node : checked_nodes(2)) {
+    for (const TreeNode* node : tree.checked_nodes(2)) {
         attempt([&] {
             const Object worksheets = workbook_of(*node).get(names::Worksheets);
             std::vector<Variant> sheet_names = sorted_names(worksheets);
             if (Ascending) std::ranges::reverse(sheet_names);
             for (const Variant& name : sheet_names) bring_to_front(worksheets, name);
         });
-        Progress(++done, total);
+        tree.Progress(++done, total);
     }
 }
 

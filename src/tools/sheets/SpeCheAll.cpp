@@ -1,11 +1,12 @@
+#include "tools/sheets/SpeCheAll.hpp"
+
 #include "automation/member_names.hpp"
-#include "tree/ctlTree.hpp"
 #include "tree/tree_nodes.hpp"
 
 namespace qor {
 
-void ctlTree::SpeCheAll(bool IgnoreHeadersFooters) {
-    for (const TreeNode* node : checked_nodes(3)) {
+void SpeCheAll(const ctlTree& tree, bool IgnoreHeadersFooters) {
+    for (const TreeNode* node : tree.checked_nodes(3)) {
         attempt([&] {
             const Object worksheet = worksheet_of(*node);
             if (IgnoreHeadersFooters) {

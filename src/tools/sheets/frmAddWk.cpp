@@ -1,6 +1,7 @@
 #include "tools/sheets/frmAddWk.hpp"
 
 #include "runtime/conversion.hpp"
+#include "tools/sheets/AddWk.hpp"
 
 namespace qor {
 
@@ -12,7 +13,7 @@ frmAddWk::frmAddWk() : TreeForm(u"frmAddWk") {
 void frmAddWk::work() {
     std::int32_t number = 0;  // a box without a number adds none
     attempt([&] { number = to_long(ctlSpinner1.box.text()); });
-    with_progress([&] { ctlTreeView.AddWk(number, optOrder.chosen() == 0); });
+    with_progress([&] { AddWk(ctlTreeView, number, optOrder.chosen() == 0); });
 }
 
 }  // namespace qor

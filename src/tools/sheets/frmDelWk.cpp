@@ -1,5 +1,7 @@
 #include "tools/sheets/frmDelWk.hpp"
 
+#include "tools/sheets/DelEmpWor.hpp"
+
 namespace qor {
 
 frmDelWk::frmDelWk() : TreeForm(u"frmDelWk") {
@@ -7,7 +9,7 @@ frmDelWk::frmDelWk() : TreeForm(u"frmDelWk") {
 }
 
 void frmDelWk::work() {
-    with_progress([this] { ctlTreeView.DelEmpWor(); });
+    with_progress([this] { DelEmpWor(ctlTreeView); });
 }
 
 }  // namespace qor

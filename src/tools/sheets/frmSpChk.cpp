@@ -1,5 +1,7 @@
 #include "tools/sheets/frmSpChk.hpp"
 
+#include "tools/sheets/SpeCheAll.hpp"
+
 namespace qor {
 
 frmSpChk::frmSpChk() : TreeForm(u"frmSpChk") {
@@ -7,7 +9,7 @@ frmSpChk::frmSpChk() : TreeForm(u"frmSpChk") {
 }
 
 void frmSpChk::work() {
-    ctlTreeView.SpeCheAll(chkIgnoreHF.checked());
+    SpeCheAll(ctlTreeView, chkIgnoreHF.checked());
 }
 
 }  // namespace qor

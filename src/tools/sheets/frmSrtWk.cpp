@@ -1,5 +1,7 @@
 #include "tools/sheets/frmSrtWk.hpp"
 
+#include "tools/sheets/SorWor.hpp"
+
 namespace qor {
 
 frmSrtWk::frmSrtWk() : TreeForm(u"frmSrtWk") {
@@ -8,7 +10,7 @@ frmSrtWk::frmSrtWk() : TreeForm(u"frmSrtWk") {
 }
 
 void frmSrtWk::work() {
-    with_progress([this] { ctlTreeView.SorWor(optOrder.chosen() == 0); });
+    with_progress([this] { SorWor(ctlTreeView, optOrder.chosen() == 0); });
 }
 
 }  // namespace qor

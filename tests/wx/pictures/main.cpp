@@ -10,10 +10,7 @@
 
 #include "core/frmAbout.hpp"
 #include "core/frmOptions.hpp"
-#include "reports/frmCellInfo.hpp"
-#include "reports/frmDtRev.hpp"
-#include "reports/frmWBSum.hpp"
-#include "reports/frmWKSum.hpp"
+#include "reports/report_forms.hpp"
 #include "screens/wx/text.hpp"
 #include "screens/wx/wx_screen.hpp"
 #include "services/frmComplete.hpp"

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "automation/variant.hpp"
+#include "hosts/calc/adapter/ground/book.hpp"
+
+namespace qor::calc {
+
+// Excel's numbers for the kinds of a property's value.
+enum class PropertyKind : std::int32_t { whole_number = 1, boolean = 2, date = 3, text = 4, number = 5 };
+
+// One of the properties that every document has in Excel.
+struct BuiltInProperty {
+    std::u16string_view name;
+    PropertyKind kind;
+    Variant (*read)(const Book& book);                      // Empty when it was never set; null when Calc has no such
+    void (*write)(const Book& book, const Variant& value);  // null when it cannot be written
+};
+
+// In Excel's order: the first has the index 1.
+std::span<const BuiltInProperty> built_in_properties();
+
+}  // namespace qor::calc

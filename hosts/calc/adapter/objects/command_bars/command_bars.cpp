@@ -1,0 +1,99 @@
+#include "hosts/calc/adapter/objects/calc_object.hpp"
+#include "hosts/calc/adapter/objects/command_bars/command_bar_objects.hpp"
+#include "hosts/calc/adapter/objects/objects.hpp"
+#include "platform/text.hpp"
+
+namespace qor::calc {
+namespace {
+
+class CommandBarsObject final : public CalcObject<CommandBarsObject> {
+  public:
+    static constexpr std::u16string_view name_of_type = u"CommandBars";
+
+    explicit CommandBarsObject(BarsOf of) : of_(std::move(of)) {}
+
+    static const MemberTable<CommandBarsObject>& members();
+
+    const Bars* identity() const { return of_.bars.get(); }
+
+    std::vector<Variant> elements() const {
+        std::vector<Variant> result;
+        for (const BarPointer& bar : of_.bars->all()) result.emplace_back(make_command_bar(of_, bar));
+        return result;
+    }
+
+  private:
+    std::int32_t count() { return static_cast<std::int32_t>(of_.bars->all().size()); }
+
+    BarPointer named(std::u16string_view name) const {
+        const auto same = [&](const BarPointer& bar) { return equal_ignoring_case(bar->name, name); };
+        const auto found = std::ranges::find_if(of_.bars->all(), same);
+        return found == of_.bars->all().end() ? nullptr : *found;
+    }
+
+    Object item(const Variant& index) {
+        const auto* name = index.get_if<std::u16string>();
+        if (!name) return make_command_bar(of_, element_at(of_.bars->all(), to_long(index)));
+        BarPointer bar = named(*name);
+        if (!bar) throw Error(ErrorNumber::invalid_call);
+        return make_command_bar(of_, std::move(bar));
+    }
+
+    std::u16string unused_name() const {
+        for (std::int32_t number = 1;; ++number) {
+            std::u16string name = u"Custom " + from_utf8(std::to_string(number));
+            if (!named(name)) return name;
+        }
+    }
+
+    Object add(const std::optional<std::u16string>& name, std::optional<std::int32_t> position,
+               std::optional<bool> menu_bar, std::optional<bool>) {
+        constexpr auto last_position = static_cast<std::int32_t>(BarPosition::floating);
+        const auto asked = position.value_or(last_position);
+        if (name && (name->empty() || named(*name))) throw Error(ErrorNumber::invalid_call);
+        if (menu_bar.value_or(false) || asked < 0 || asked > last_position) {
+            throw Error(ErrorNumber::host_refused, {},
+                        u"CommandBars.Add: only toolbars that are docked or float can be added.");
+        }
+        BarPointer bar = of_.bars->add(name ? *name : unused_name());
+        of_.bars->place_of(*bar).set_position(static_cast<BarPosition>(asked));
+        return make_command_bar(of_, std::move(bar));
+    }
+
+    Object find(std::optional<std::int32_t> type, std::optional<std::int32_t> id,
+                const std::optional<std::u16string>& tag, std::optional<bool> visible) {
+        const std::vector<BarPointer> bars = of_.bars->all();
+        for (const BarPointer& bar : bars) {
+            if (Object found = find_control({of_, bar, nullptr}, {type, id, tag, visible, true})) return found;
+        }
+        return {};
+    }
+
+    Object active_menu_bar() { return make_command_bar(of_, of_.bars->all().front()); }
+    Object application() { return make_application(of_.host); }
+
+    BarsOf of_;
+};
+
+const MemberTable<CommandBarsObject>& CommandBarsObject::members() {
+    using C = CommandBarsObject;
+    static const MemberTable<C> table({
+        property<&C::active_menu_bar>(u"ActiveMenuBar"),
+        method<&C::add>(u"Add", {u"Name", u"Position", u"MenuBar", u"Temporary"}),
+        property<&C::application>(u"Application"),
+        property<&C::count>(u"Count"),
+        method<&C::find>(u"FindControl", {u"Type", u"Id", u"Tag", u"Visible"}),
+        property<&C::item>(u"Item", {u"Index"}),
+        property<&C::application>(u"Parent"),
+    });
+    return table;
+}
+
+}  // namespace
+
+Object make_command_bars(HostPointer host) {
+    auto bars = Bars::of(host->context());
+    return make_object<CommandBarsObject>(BarsOf{std::move(host), std::move(bars)});
+}
+
+}  // namespace qor::calc

@@ -1,0 +1,221 @@
+#include <algorithm>
+#include <array>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/ConditionEntryType.hpp>
+#include <com/sun/star/sheet/ConditionFormatOperator.hpp>
+#include <com/sun/star/sheet/FormulaToken.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XConditionEntry.hpp>
+#include <com/sun/star/sheet/XConditionalFormat.hpp>
+#include <com/sun/star/sheet/XConditionalFormats.hpp>
+#include <com/sun/star/sheet/XFormulaParser.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+
+#include "hosts/calc/adapter/objects/calc_object.hpp"
+#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/uno/service.hpp"
+
+namespace qor::calc {
+namespace {
+
+namespace entry_type = css::sheet::ConditionEntryType;
+namespace calc_operator = css::sheet::ConditionFormatOperator;
+using Entry = Ref<css::sheet::XConditionEntry>;
+
+constexpr std::int32_t cell_value = 1;  // the only type that has an operator
+constexpr std::int32_t expression = 2;
+
+struct Kind {
+    std::int32_t calc;
+    std::int32_t type;       // as Excel numbers it
+    std::int32_t excel = 0;  // the operator, for a cell's value
+};
+constexpr std::array conditions{
+    Kind{calc_operator::BETWEEN, cell_value, 1},
+    Kind{calc_operator::NOT_BETWEEN, cell_value, 2},
+    Kind{calc_operator::EQUAL, cell_value, 3},
+    Kind{calc_operator::NOT_EQUAL, cell_value, 4},
+    Kind{calc_operator::GREATER, cell_value, 5},
+    Kind{calc_operator::LESS, cell_value, 6},
+    Kind{calc_operator::GREATER_EQUAL, cell_value, 7},
+    Kind{calc_operator::LESS_EQUAL, cell_value, 8},
+    Kind{calc_operator::EXPRESSION, expression},
+    Kind{calc_operator::DUPLICATE, 8},
+    Kind{calc_operator::UNIQUE, 8},
+    Kind{calc_operator::TOP_N_ELEMENTS, 5},
+    Kind{calc_operator::BOTTOM_N_ELEMENTS, 5},
+    Kind{calc_operator::TOP_N_PERCENT, 5},
+    Kind{calc_operator::BOTTOM_N_PERCENT, 5},
+    Kind{calc_operator::ABOVE_AVERAGE, 12},
+    Kind{calc_operator::BELOW_AVERAGE, 12},
+    Kind{calc_operator::ABOVE_EQUAL_AVERAGE, 12},
+    Kind{calc_operator::BELOW_EQUAL_AVERAGE, 12},
+    Kind{calc_operator::ERROR, 16},
+    Kind{calc_operator::NO_ERROR, 17},
+    Kind{calc_operator::BEGINS_WITH, 9},
+    Kind{calc_operator::ENDS_WITH, 9},
+    Kind{calc_operator::CONTAINS, 9},
+    Kind{calc_operator::NOT_CONTAINS, 9},
+};
+// Conditions that are no comparison.
+constexpr std::array pictures{Kind{entry_type::COLORSCALE, 3}, Kind{entry_type::DATABAR, 4},
+                              Kind{entry_type::ICONSET, 6}, Kind{entry_type::DATE, 11}};
+
+constexpr std::int32_t last_with_two_formulas = 2;  // between and not between
+
+// A condition for the cell, and where its formulas are written for.
+struct Condition {
+    Entry entry;
+    css::table::CellAddress written_for;
+};
+
+Kind kind_of(const Entry& entry) {
+    const sal_Int32 type = entry->getType();
+    if (type != entry_type::CONDITION) return *std::ranges::find(pictures, type, &Kind::calc);
+    const auto* kind = std::ranges::find(conditions, get_property<sal_Int32>(entry, "Operator"), &Kind::calc);
+    if (kind == conditions.end()) throw Error(ErrorNumber::host_refused);
+    return *kind;
+}
+
+std::vector<Condition> conditions_of(const Sheet& sheet, const Rectangle& cell) {
+    const Ref all{
+        get_property<css::uno::Reference<css::sheet::XConditionalFormats>>(sheet.sheet, "ConditionalFormats")};
+    std::vector<std::pair<sal_Int32, Condition>> found;
+    for (const auto& one : all->getConditionalFormats()) {
+        const Ref format{one};
+        const Ref ranges{get_property<css::uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range")};
+        const auto places = ranges->getRangeAddresses();
+        const bool holds_cell = std::ranges::any_of(places, [&](const css::table::CellRangeAddress& at) {
+            return Rectangle{at.StartColumn, at.StartRow, at.EndColumn, at.EndRow}.contains(cell);
+        });
+        if (!holds_cell) continue;
+        css::table::CellAddress corner{places[0].Sheet, places[0].StartColumn, places[0].StartRow};
+        for (const css::table::CellRangeAddress& at : places) {
+            corner.Column = std::min(corner.Column, at.StartColumn);
+            corner.Row = std::min(corner.Row, at.StartRow);
+        }
+        const auto id = get_property<sal_Int32>(format, "ID");
+        const Ref<css::container::XIndexAccess> entries(format);
+        const sal_Int32 count = entries->getCount();
+        found.reserve(found.size() + static_cast<std::size_t>(count));
+        for (sal_Int32 i = 0; i < count; ++i) {
+            found.push_back({id, {Entry(entries->getByIndex(i)), corner}});
+        }
+    }
+    std::ranges::stable_sort(found, {}, [](const auto& one) { return one.first; });
+    std::vector<Condition> result;
+    for (auto& [id, condition] : found) result.push_back(std::move(condition));
+    return result;
+}
+
+// Parsed where it was written for in the user's own notation, and printed as the cell sees it in Calc's English one.
+std::u16string as_seen_from(const Book& book, const rtl::OUString& formula, const css::table::CellAddress& written_for,
+                            const css::table::CellAddress& cell) {
+    const auto parser = create_in<css::sheet::XFormulaParser>(book.document, "com.sun.star.sheet.FormulaParser");
+    set_property(parser, "CompileEnglish", false);
+    const auto tokens = parser->parseFormula(formula, written_for);
+    set_property(parser, "CompileEnglish", true);
+    return u"=" + from_uno(parser->printFormula(tokens, cell));
+}
+
+class FormatCondition final : public CalcObject<FormatCondition> {
+  public:
+    static constexpr std::u16string_view name_of_type = u"FormatCondition";
+
+    FormatCondition(RangeAreas cell, Condition condition) : cell_(std::move(cell)), condition_(std::move(condition)) {}
+
+    void require_alive() const { cell_.sheet.require_alive(); }
+    static const MemberTable<FormatCondition>& members() {
+        using F = FormatCondition;
+        static const MemberTable<F> table({
+            property<&F::application>(u"Application"),
+            property<&F::first_formula>(u"Formula1"),
+            property<&F::second_formula>(u"Formula2"),
+            property<&F::comparison>(u"Operator"),
+            property<&F::parent>(u"Parent"),
+            property<&F::type>(u"Type"),
+        });
+        return table;
+    }
+
+  private:
+    std::int32_t type() { return kind_of(condition_.entry).type; }
+    std::int32_t comparison() {
+        const Kind kind = kind_of(condition_.entry);
+        if (kind.type != cell_value) throw Error(ErrorNumber::host_refused);
+        return kind.excel;
+    }
+    std::u16string first_formula() {
+        const std::int32_t kind = type();
+        if (kind != cell_value && kind != expression) throw Error(ErrorNumber::host_refused);
+        return formula("Formula1");
+    }
+    std::u16string second_formula() {
+        if (comparison() > last_with_two_formulas) throw Error(ErrorNumber::host_refused);
+        return formula("Formula2");
+    }
+    // A constant comes with the equals sign, too.
+    std::u16string formula(const char* name) const {
+        const auto text = get_property<rtl::OUString>(condition_.entry, name);
+        const Rectangle at = cell_.rectangle();
+        const css::table::CellAddress cell{static_cast<sal_Int16>(cell_.sheet.index()), at.left, at.top};
+        const Book& book = cell_.sheet.book;
+        return book.host->translator().to_excel(as_seen_from(book, text, condition_.written_for, cell));
+    }
+
+    Object parent() { return make_range(cell_); }
+    Object application() { return make_application(cell_.sheet.book.host); }
+
+    RangeAreas cell_;
+    Condition condition_;
+};
+
+// Those of the first cell of a range.
+class FormatConditions final : public CalcObject<FormatConditions> {
+  public:
+    static constexpr std::u16string_view name_of_type = u"FormatConditions";
+
+    explicit FormatConditions(RangeAreas areas) : areas_(std::move(areas)) {}
+
+    void require_alive() const { areas_.sheet.require_alive(); }
+    static const MemberTable<FormatConditions>& members() {
+        using F = FormatConditions;
+        static const MemberTable<F> table({
+            property<&F::application>(u"Application"),
+            property<&F::count>(u"Count"),
+            property<&F::item>(u"Item", {u"Index"}),
+            property<&F::parent>(u"Parent"),
+        });
+        return table;
+    }
+
+    std::vector<Variant> elements() const {
+        std::vector<Variant> result;
+        for (const Condition& condition : all()) result.emplace_back(make_object<FormatCondition>(areas_, condition));
+        return result;
+    }
+
+  private:
+    std::vector<Condition> all() const {
+        const Rectangle area = areas_.rectangle();
+        return conditions_of(areas_.sheet, {area.left, area.top, area.left, area.top});
+    }
+    std::int32_t count() { return static_cast<std::int32_t>(all().size()); }
+    Object item(std::int32_t index) {
+        const std::vector<Condition> found = all();
+        return make_object<FormatCondition>(areas_, element_at(found, index));
+    }
+    Object parent() { return make_range(areas_); }
+    Object application() { return make_application(areas_.sheet.book.host); }
+
+    RangeAreas areas_;
+};
+
+}  // namespace
+
+Object make_format_conditions(RangeAreas areas) {
+    return make_object<FormatConditions>(std::move(areas));
+}
+
+}  // namespace qor::calc

@@ -1,0 +1,81 @@
+#include "reports/cell_columns.hpp"
+#include "reports/workbook_summary.hpp"
+#include "reports/worksheet_summary.hpp"
+#include "runtime/clock.hpp"
+#include "tests/calc/support/report_run.hpp"
+#include "tests/fakes/fake_screen.hpp"
+#include "tests/fakes/memory_settings.hpp"
+#include "tree/ctlTree.hpp"
+
+namespace qor::calc::tests {
+namespace {
+
+using namespace std::chrono_literals;
+using Steps = std::vector<std::pair<std::int32_t, std::int32_t>>;
+
+class frmTree final : public Form {
+  public:
+    explicit frmTree(Screen& screen) : Form(u"frmTree", screen) {}
+    ctlTree ctlTreeView{*this, u"ctlTreeView"};
+    std::u16string_view caption() const noexcept override { return u"Tree"; }
+};
+
+// A workbook with 3000 rows of two dates, and what the user hears of the reports on it.
+struct ProgressRun {
+    ToolRun run;
+    Object book = run.add_book();
+    fakes::FakeScreen screen;
+    fakes::MemorySettings settings;
+    std::function<std::chrono::steady_clock::time_point()> real_clock = running_clock();
+
+    ProgressRun() {
+        book.get(names::Worksheets, 1).get(names::Range, u"A1:B3000").put(names::Value, Date{38061.0});
+        set_environment({screen, settings});
+        gExcel = run.application;
+    }
+    ~ProgressRun() {
+        gExcel = {};
+        running_clock() = real_clock;
+    }
+    ProgressRun(const ProgressRun&) = delete;
+    ProgressRun& operator=(const ProgressRun&) = delete;
+
+    // Each look at the clock finds it later by `step`.
+    template <class Columns>
+    Steps hear(void (ctlTree::*report)(std::span<const std::u16string>), const Columns& columns,
+               std::chrono::milliseconds step) {
+        std::chrono::steady_clock::time_point time;
+        running_clock() = [&] { return time += step; };
+        Steps steps;
+        frmTree form(screen);
+        form.ctlTreeView.Progress = [&](std::int32_t done, std::int32_t total) { steps.emplace_back(done, total); };
+        form.ctlTreeView.LoadExcel();
+        TreeView& tree = form.ctlTreeView.treQOR;
+        for (std::size_t index = 1; index <= tree.count(); ++index) tree.node(index).set_image(ctlTree::checked);
+        (form.ctlTreeView.*report)(ReportFields(columns).checked_headings());
+        run.application.get(names::ActiveWorkbook).call(names::Close, false);
+        return steps;
+    }
+};
+
+}  // namespace
+
+TEST_CASE("a report of cells tells how far it is as often as a user can see, and at the end of each sheet") {
+    ProgressRun run;
+    const Steps once{{6000, 6000}};
+    const Steps of_each_block{{1024, 6000}, {2048, 6000}, {3072, 6000}, {4096, 6000}, {5120, 6000}, {6000, 6000}};
+    CHECK(run.hear(&ctlTree::CellInfo, cell_information_columns(), 0ms) == once);
+    CHECK(run.hear(&ctlTree::CellInfo, cell_information_columns(), 60ms) == of_each_block);
+    CHECK(run.hear(&ctlTree::DtRev, date_review_columns(), 0ms) == once);
+    CHECK(run.hear(&ctlTree::DtRev, date_review_columns(), 60ms) == of_each_block);
+}
+
+TEST_CASE("a summary tells of each of its records") {
+    ProgressRun run;
+    run.book.get(names::Worksheets).call(names::Add);
+    CHECK(run.hear(&ctlTree::WkSum, worksheet_summary_columns(), 0ms) == Steps{{1, 1}, {1, 6000}});
+    // The root, the window and two sheets.
+    CHECK(run.hear(&ctlTree::WBSum, workbook_summary_columns(), 0ms) == Steps{{1, 4}});
+}
+
+}  // namespace qor::calc::tests
