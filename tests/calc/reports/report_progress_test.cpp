@@ -1,6 +1,4 @@
-#include "reports/cell_columns.hpp"
-#include "reports/workbook_summary.hpp"
-#include "reports/worksheet_summary.hpp"
+#include "reports/report_forms.hpp"
 #include "runtime/clock.hpp"
 #include "tests/calc/support/report_run.hpp"
 #include "tests/fakes/fake_screen.hpp"
@@ -41,9 +39,7 @@ struct ProgressRun {
     ProgressRun& operator=(const ProgressRun&) = delete;
 
     // Each look at the clock finds it later by `step`.
-    template <class Columns>
-    Steps hear(void (ctlTree::*report)(std::span<const std::u16string>), const Columns& columns,
-               std::chrono::milliseconds step) {
+    Steps hear(const ReportKind& report, std::chrono::milliseconds step) {
         std::chrono::steady_clock::time_point time;
         running_clock() = [&] { return time += step; };
         Steps steps;
@@ -52,7 +48,7 @@ struct ProgressRun {
         form.ctlTreeView.LoadExcel();
         TreeView& tree = form.ctlTreeView.treQOR;
         for (std::size_t index = 1; index <= tree.count(); ++index) tree.node(index).set_image(ctlTree::checked);
-        (form.ctlTreeView.*report)(ReportFields(columns).checked_headings());
+        report.write(form.ctlTreeView, report.fields().checked_headings());
         run.application.get(names::ActiveWorkbook).call(names::Close, false);
         return steps;
     }
@@ -64,18 +60,18 @@ TEST_CASE("a report of cells tells how far it is as often as a user can see, and
     ProgressRun run;
     const Steps once{{6000, 6000}};
     const Steps of_each_block{{1024, 6000}, {2048, 6000}, {3072, 6000}, {4096, 6000}, {5120, 6000}, {6000, 6000}};
-    CHECK(run.hear(&ctlTree::CellInfo, cell_information_columns(), 0ms) == once);
-    CHECK(run.hear(&ctlTree::CellInfo, cell_information_columns(), 60ms) == of_each_block);
-    CHECK(run.hear(&ctlTree::DtRev, date_review_columns(), 0ms) == once);
-    CHECK(run.hear(&ctlTree::DtRev, date_review_columns(), 60ms) == of_each_block);
+    CHECK(run.hear(cell_information, 0ms) == once);
+    CHECK(run.hear(cell_information, 60ms) == of_each_block);
+    CHECK(run.hear(date_review, 0ms) == once);
+    CHECK(run.hear(date_review, 60ms) == of_each_block);
 }
 
 TEST_CASE("a summary tells of each of its records") {
     ProgressRun run;
     run.book.get(names::Worksheets).call(names::Add);
-    CHECK(run.hear(&ctlTree::WkSum, worksheet_summary_columns(), 0ms) == Steps{{1, 1}, {1, 6000}});
+    CHECK(run.hear(worksheet_summary, 0ms) == Steps{{1, 1}, {1, 6000}});
     // The root, the window and two sheets.
-    CHECK(run.hear(&ctlTree::WBSum, workbook_summary_columns(), 0ms) == Steps{{1, 4}});
+    CHECK(run.hear(workbook_summary, 0ms) == Steps{{1, 4}});
 }
 
 }  // namespace qor::calc::tests
