@@ -66,7 +66,7 @@ sample_packages=(libreoffice-dev-doc python-odf-doc r-cran-openxlsx r-cran-readx
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine64 libwine-dev)
 
 # Checkouts in other folders share what ccache keeps.
-export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 # build PRESET [TARGET...]
 build() {
