@@ -14,7 +14,7 @@ import sys
 CODE = re.compile(r"(`+)(.+?)\1", re.DOTALL)
 WORD = re.compile(r"[^\s`\"'()\[\]{}<>|=,;:]+")
 PATH = re.compile(r"[\w.*+-]+(/[\w.*+-]+)*/?")
-LINK = re.compile(r"\]\(([^)\s]+)\)")
+LINK = re.compile(r'(?:\]\(|src=")([^)\s"]+)')
 ANY_NAME = re.compile(r"(?<![A-Za-z])[A-Z]{2,}(?![A-Za-z])")
 
 

@@ -32,10 +32,10 @@ class DocPaths(unittest.TestCase):
         )
 
     def test_links_start_from_their_own_file(self):
-        text = "[a](b.md), [`x`](b.md#part), ![c](../c.png), [d](#part), [e](https://x.example/y), [f](docs/b.md)\n"
-        self.assertEqual(
-            self.check({"docs/a.md": text}, ["docs/b.md", "c.png"]), (1, ["docs/a.md:1: there is no docs/b.md"])
-        )
+        text = "[a](b.md), [`x`](b.md#part), ![c](../c.png), [d](#part), [e](https://x.example/y)\n"
+        text += "[f](docs/b.md) <img src=\"../c.png\" width=\"9\"> <img src=\"c.png\">\n"
+        gone = ["docs/a.md:2: there is no docs/b.md", "docs/a.md:2: there is no c.png"]
+        self.assertEqual(self.check({"docs/a.md": text}, ["docs/b.md", "c.png"]), (1, gone))
 
     def test_a_word_in_capitals_stands_for_any_name(self):
         text = "`src/NAME.cpp` `src/test_NAME.cpp` `src/FOLDER/x.cpp`\n"
