@@ -1,5 +1,5 @@
-# The few kinds of target that the project has. A folder says which kind it is and what it uses;
-# its sources are the .cpp files that lie in it.
+# The kinds of target that all folders share. A folder says which kind it is and what it uses; its sources are the .cpp
+# files that lie in it.
 
 # What only tests run is compiled for a quick build: without optimization, and sanitized for addresses alone.
 define_property(TARGET PROPERTY QOR_TEST_CODE INITIALIZE_FROM_VARIABLE QOR_TEST_CODE)
@@ -20,7 +20,7 @@ if(QOR_SANITIZE)
   target_compile_definitions(qor_options INTERFACE QOR_SANITIZER="${sanitizer}")
 endif()
 
-# qor_library(name [DEPENDS libraries...]): a static library of the core or of a screen
+# qor_library(name [DEPENDS libraries...]): a static library
 function(qor_library name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
