@@ -8,10 +8,8 @@
 #include "functions/registration.hpp"
 #include "ground/CReg.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "ground/product.hpp"
-#include "ground/text_option.hpp"
-#include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDrive.hpp"
 
@@ -24,7 +22,7 @@ constexpr std::int32_t alternate_template_help_id = 170010;
 }  // namespace
 
 CCom::CCom() {
-    attempt([&] { QDoSelectionChange = to_boolean(QGetSetting(u"Options", u"chkT4ViewCellCommentsUponEntry", u"0")); });
+    attempt([&] { QDoSelectionChange = is_on(option::chkT4ViewCellCommentsUponEntry); });
 }
 
 Variant CCom::invoke(const MemberName& name, Access access, Arguments arguments) {
@@ -83,7 +81,7 @@ void CCom::show_options(std::int32_t tab) {
     form.HelpFileId = options_help_id;
     form.AppTitle = QTitle() + u": Options";
     form.show_modal();
-    QDoSelectionChange = boolean_option(u"chkT4ViewCellCommentsUponEntry", u"0");
+    QDoSelectionChange = is_on(option::chkT4ViewCellCommentsUponEntry);
 }
 
 void CCom::UTOpt(const Object& objoleEx) {
@@ -95,7 +93,7 @@ void CCom::UTOpt(const Object& objoleEx) {
 void CCom::UTAltTem(const Object& objoleEx) {
     constexpr std::int32_t workbook_tab = 1;
     gExcel = objoleEx;
-    if (!boolean_option(u"chkT2AlternateTemplate", u"0")) {
+    if (!is_on(option::chkT2AlternateTemplate)) {
         const auto open_help = [this] {
             attempt([this] { gExcel.call(names::Help, QHelpFile, alternate_template_help_id); });
         };
@@ -106,7 +104,7 @@ void CCom::UTAltTem(const Object& objoleEx) {
                                           .help_id = alternate_template_help_id,
                                           .open_help = open_help});
         show_options(workbook_tab);
-    } else if (const std::u16string file = text_option(u"txtT2AlternateTemplateFile"); !file.empty()) {
+    } else if (const std::u16string file = text_of(option::txtT2AlternateTemplateFile); !file.empty()) {
         gExcel.get(names::Workbooks).call(names::Add, file);
     }
     gExcel = Object();
