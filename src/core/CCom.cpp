@@ -2,9 +2,11 @@
 
 #include "automation/member_names.hpp"
 #include "core/bookmark_jump.hpp"
+#include "core/bookmark_list.hpp"
 #include "core/frmAbout.hpp"
 #include "core/frmOptions.hpp"
 #include "core/reactions.hpp"
+#include "core/tool_launch.hpp"
 #include "functions/registration.hpp"
 #include "ground/CReg.hpp"
 #include "ground/MMain.hpp"
@@ -77,10 +79,7 @@ void CCom::QAbout() {
 void CCom::show_options(std::int32_t tab) {
     frmOptions form;
     form.GetCurrentTab = tab;
-    form.HelpFile = QHelpFile;
-    form.HelpFileId = options_help_id;
-    form.AppTitle = QTitle() + u": Options";
-    form.show_modal();
+    show_form(form, u"Options", options_help_id, QHelpFile);
     QDoSelectionChange = is_on(option::chkT4ViewCellCommentsUponEntry);
 }
 
@@ -112,7 +111,7 @@ void CCom::UTAltTem(const Object& objoleEx) {
 
 void CCom::UTBoo(const Object& objoleEx, std::optional<std::int32_t> lRun) {
     gExcel = objoleEx;
-    jump_to_bookmark(QThisWrkBkPath + u"\\Bookmarks.dat", lRun.value_or(0) != 0);
+    jump_to_bookmark(QThisWrkBkPath + std::u16string(bookmark_file), lRun.value_or(0) != 0);
     gExcel = Object();
 }
 

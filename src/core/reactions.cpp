@@ -5,8 +5,8 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
+#include "ground/message.hpp"
 #include "ground/option_table.hpp"
-#include "ground/product.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDrive.hpp"
@@ -73,9 +73,8 @@ void set_kept_scroll_areas(const std::u16string& workbook) {
 }
 
 bool may_replace_backup() {
-    return environment().screen.message_box({.title = std::u16string(product::title),
-                                             .text = u"Do you wish to replace existing backup?",
-                                             .buttons = MessageButtons::yes_no}) == MessageAnswer::yes;
+    return show_message(u"Do you wish to replace existing backup?", MessageIcon::none, MessageButtons::yes_no) ==
+           MessageAnswer::yes;
 }
 
 }  // namespace
