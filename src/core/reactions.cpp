@@ -104,18 +104,18 @@ void QScrollableArea(const std::u16string& sWorkbookName, const std::u16string& 
     }
 }
 
-bool QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName) {
-    if (!is_on(option::chkT2AlwaysCreateBackupUponSave)) return true;
+Ending QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName) {
+    if (!is_on(option::chkT2AlwaysCreateBackupUponSave)) return Ending::complete;
     const bool warns = is_on(option::chkT2WarnBackupExists);
     std::u16string folder(trim(text_of(option::txtT2AlwaysCreateBackupUponSave)));
-    if (!CFile::FolderExists(folder)) return false;
+    if (!CFile::FolderExists(folder)) return Ending::early;
     if (!folder.ends_with(u'\\') && !folder.ends_with(u'/')) folder += u'\\';
     const std::u16string name = sWorkbookName.value_or(std::u16string());
     const Variant workbook = gExcel.get(names::Workbooks, name);
-    if (to_text(workbook.get(names::Path)).empty()) return false;
+    if (to_text(workbook.get(names::Path)).empty()) return Ending::early;
     const std::u16string backup = folder + CFile::GetFileNameWOExt(name) + u".xlk";
     if (!warns || !CFile::FileExists(backup) || may_replace_backup()) workbook.call(names::SaveCopyAs, backup);
-    return true;
+    return Ending::complete;
 }
 
 void QSetSaveFolder() {

@@ -20,11 +20,9 @@ void show_form(ToolForm& form, std::u16string_view title, std::int32_t help_id, 
     form.show_modal();
 }
 
-void launch(const Tool& tool, const Object& application, const std::u16string& help_file) {
-    gExcel = application;
-    if (!tool.needs_active_workbook || require_active_workbook())
-        show_form(*tool.make_form(), tool.title, tool.help_id, help_file);
-    gExcel = Object();
+void launch(const Tool& tool, const std::u16string& help_file) {
+    if (tool.needs_active_workbook && !require_active_workbook()) return;
+    show_form(*tool.make_form(), tool.title, tool.help_id, help_file);
 }
 
 }  // namespace qor
