@@ -25,8 +25,6 @@ namespace {
 
 using nlohmann::json;
 
-constexpr std::u16string_view application_parameter = u"objoleEx";
-
 json error_to_json(const Error& error) {
     return {
         {"number", error.number()}, {"source", to_utf8(error.source())}, {"description", to_utf8(error.description())}};
@@ -186,7 +184,7 @@ class Session {
 
     std::vector<Variant> arguments_of(const Member<CCom>& member, const json& given) const {
         std::vector<Variant> arguments;
-        if (!member.parameters.empty() && member.parameters.front() == application_parameter)
+        if (!member.parameters.empty() && member.parameters.front() == CCom::application_parameter)
             arguments.emplace_back(application_);
         const std::size_t most = member.parameters.size() - arguments.size();
         if (given.size() > most) {

@@ -7,27 +7,12 @@
 
 #include "apps/qorplus/usage_error.hpp"
 #include "apps/qorplus/value_text.hpp"
+#include "functions/function_words.hpp"
 #include "functions/registry.hpp"
 #include "platform/text.hpp"
 
 namespace qor::cli {
 namespace {
-
-const char* kind_text(ValueKind kind) {
-    switch (kind) {
-        case ValueKind::number:
-            return "number";
-        case ValueKind::whole_number:
-            return "whole number";
-        case ValueKind::text:
-            return "text";
-        case ValueKind::boolean:
-            return "boolean";
-        case ValueKind::variant:
-            return "value";
-    }
-    return "value";
-}
 
 // "ARNS dBgAR dEdAR dNetSales [lDecPlace=4]"
 std::string signature(const Function& function) {
@@ -43,22 +28,6 @@ std::string signature(const Function& function) {
         }
     }
     return text;
-}
-
-const char* category_text(Category category) {
-    switch (category) {
-        case Category::financial:
-            return "Financial";
-        case Category::date_and_time:
-            return "Date & Time";
-        case Category::text:
-            return "Text";
-        case Category::logical:
-            return "Logical";
-        case Category::information:
-            return "Information";
-    }
-    return "";
 }
 
 const Function& function_named(const std::string& name) {
@@ -92,12 +61,12 @@ void require_fitting(const Parameter& parameter, const Variant& value, const std
     };
     if (attempt(convert_it) != 0)
         throw UsageError(fmt::format("{} must be a {}, but {} is none", to_utf8(parameter.name),
-                                     kind_text(parameter.kind), given.empty() ? "the empty text" : given));
+                                     to_utf8(kind_name(parameter.kind)), given.empty() ? "the empty text" : given));
 }
 
 nlohmann::ordered_json parameter_entry(const Parameter& parameter) {
     nlohmann::ordered_json entry{{"name", to_utf8(parameter.name)},
-                                 {"kind", kind_text(parameter.kind)},
+                                 {"kind", to_utf8(kind_name(parameter.kind))},
                                  {"optional", parameter.is_optional()},
                                  {"byReference", parameter.is_by_reference}};
     if (parameter.is_optional() && !parameter.default_value->is_missing())
@@ -118,12 +87,12 @@ nlohmann::ordered_json function_entry(const Function& function, bool is_register
     entry["registered"] = is_registered;
     if (is_registered) {
         entry["category"] = static_cast<std::int32_t>(function.category);
-        entry["categoryName"] = category_text(function.category);
+        entry["categoryName"] = to_utf8(category_name(function.category));
         entry["helpId"] = function.help_id;
         entry["description"] = to_utf8(function.description);
     }
     entry["parameters"] = std::move(parameters);
-    entry["result"] = kind_text(function.result_kind());
+    entry["result"] = to_utf8(kind_name(function.result_kind()));
     entry["examples"] = std::move(examples);
     return entry;
 }

@@ -2,16 +2,15 @@
 
 #include "automation/member_names.hpp"
 #include "core/bookmark_jump.hpp"
+#include "core/bookmark_list.hpp"
 #include "core/frmAbout.hpp"
 #include "core/frmOptions.hpp"
-#include "core/reactions.hpp"
+#include "core/tool_launch.hpp"
 #include "functions/registration.hpp"
 #include "ground/CReg.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "ground/product.hpp"
-#include "ground/text_option.hpp"
-#include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDrive.hpp"
 
@@ -24,7 +23,7 @@ constexpr std::int32_t alternate_template_help_id = 170010;
 }  // namespace
 
 CCom::CCom() {
-    attempt([&] { QDoSelectionChange = to_boolean(QGetSetting(u"Options", u"chkT4ViewCellCommentsUponEntry", u"0")); });
+    attempt([&] { QDoSelectionChange = is_on(option::chkT4ViewCellCommentsUponEntry); });
 }
 
 Variant CCom::invoke(const MemberName& name, Access access, Arguments arguments) {
@@ -54,20 +53,16 @@ bool CCom::QSaveSetting(const std::u16string& sSection, const std::u16string& sK
     return CReg(environment().settings).SaveSetting(RootKey::current_user, sSection, sKey, sSetting);
 }
 
-void CCom::QOpenHelp(const Object& objoleEx) {
-    gExcel = objoleEx;
+void CCom::QOpenHelp() {
     attempt([&] { gExcel.call(names::Help, QHelpFile); });
-    gExcel = Object();
 }
 
 void CCom::QSetCurrDir(const std::u16string& sSetCurrDir) {
     CDrive::SetCurrDir(sSetCurrDir);
 }
 
-void CCom::QSetupFunc(const Object& objoleEx) {
-    gExcel = objoleEx;
+void CCom::QSetupFunc() {
     attempt([&] { setup_functions(gExcel, QHelpFile); });
-    gExcel = Object();
 }
 
 void CCom::QAbout() {
@@ -79,23 +74,17 @@ void CCom::QAbout() {
 void CCom::show_options(std::int32_t tab) {
     frmOptions form;
     form.GetCurrentTab = tab;
-    form.HelpFile = QHelpFile;
-    form.HelpFileId = options_help_id;
-    form.AppTitle = QTitle() + u": Options";
-    form.show_modal();
-    QDoSelectionChange = boolean_option(u"chkT4ViewCellCommentsUponEntry", u"0");
+    show_form(form, u"Options", options_help_id, QHelpFile);
+    QDoSelectionChange = is_on(option::chkT4ViewCellCommentsUponEntry);
 }
 
-void CCom::UTOpt(const Object& objoleEx) {
-    gExcel = objoleEx;
+void CCom::UTOpt() {
     show_options(QCurrentTab);
-    gExcel = Object();
 }
 
-void CCom::UTAltTem(const Object& objoleEx) {
+void CCom::UTAltTem() {
     constexpr std::int32_t workbook_tab = 1;
-    gExcel = objoleEx;
-    if (!boolean_option(u"chkT2AlternateTemplate", u"0")) {
+    if (!is_on(option::chkT2AlternateTemplate)) {
         const auto open_help = [this] {
             attempt([this] { gExcel.call(names::Help, QHelpFile, alternate_template_help_id); });
         };
@@ -106,27 +95,16 @@ void CCom::UTAltTem(const Object& objoleEx) {
                                           .help_id = alternate_template_help_id,
                                           .open_help = open_help});
         show_options(workbook_tab);
-    } else if (const std::u16string file = text_option(u"txtT2AlternateTemplateFile"); !file.empty()) {
+    } else if (const std::u16string file = text_of(option::txtT2AlternateTemplateFile); !file.empty()) {
         gExcel.get(names::Workbooks).call(names::Add, file);
     }
-    gExcel = Object();
 }
 
-void CCom::UTBoo(const Object& objoleEx, std::optional<std::int32_t> lRun) {
-    gExcel = objoleEx;
-    jump_to_bookmark(QThisWrkBkPath + u"\\Bookmarks.dat", lRun.value_or(0) != 0);
-    gExcel = Object();
+void CCom::UTBoo(std::optional<std::int32_t> lRun) {
+    jump_to_bookmark(QThisWrkBkPath + std::u16string(bookmark_file), lRun.value_or(0) != 0);
 }
 
-void CCom::QAlwCreBacBefSav(const Object& objoleEx, const std::optional<std::u16string>& sWorkbookName) {
-    gExcel = objoleEx;
-    // Where it ends early, the next command overwrites gExcel.
-    if (qor::QAlwCreBacBefSav(sWorkbookName)) gExcel = Object();
-}
-
-void CCom::QSheetSelectionChange(const Object& objoleEx, const std::u16string& sTargetWorksheet,
-                                 const std::u16string& sTargetCell) {
-    gExcel = objoleEx;
+void CCom::QSheetSelectionChange(const std::u16string& sTargetWorksheet, const std::u16string& sTargetCell) {
     const auto show_comment = [](const std::u16string& sheet, const std::u16string& cell, bool visible) {
         attempt([&] {
             gExcel.get(names::Worksheets, sheet)
@@ -140,7 +118,6 @@ void CCom::QSheetSelectionChange(const Object& objoleEx, const std::u16string& s
         if (!trim(QWorksheetName).empty() && !trim(QTargetAddress).empty())
             show_comment(QWorksheetName, QTargetAddress, false);
     }
-    gExcel = Object();
 }
 
 std::u16string CCom::HundredsTensUnits(std::int16_t TestValue, std::optional<bool>& UseAnd) const {

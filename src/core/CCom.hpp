@@ -15,8 +15,10 @@ class CCom final : public Dispatch {
   public:
     CCom();
 
-    // Every member with its parameters and the way it fails. A member whose first parameter is objoleEx is a command
-    // and gets the host's Application there.
+    // A member whose first parameter has this name is a command and gets the host's Application there.
+    static constexpr std::u16string_view application_parameter = u"objoleEx";
+
+    // Every member with its parameters and the way it fails.
     static const MemberTable<CCom>& members();
 
     Variant invoke(const MemberName& name, Access access, Arguments arguments) override;
@@ -40,18 +42,18 @@ class CCom final : public Dispatch {
     std::u16string QGetSetting(const std::u16string& sSection, const std::u16string& sKey,
                                const std::u16string& sDefault) const;
     bool QSaveSetting(const std::u16string& sSection, const std::u16string& sKey, const std::u16string& sSetting) const;
-    void QOpenHelp(const Object& objoleEx);
     void QSetCurrDir(const std::u16string& sSetCurrDir);
-    void QSetupFunc(const Object& objoleEx);
     void QAbout();
-    void UTOpt(const Object& objoleEx);
-    void UTAltTem(const Object& objoleEx);
+
+    // Commands: gExcel is set by their rows.
+    void QOpenHelp();
+    void QSetupFunc();
+    void UTOpt();
+    void UTAltTem();
     // With lRun other than 0 a bookmark whose workbook is gone is not spoken of.
-    void UTBoo(const Object& objoleEx, std::optional<std::int32_t> lRun);
-    void QAlwCreBacBefSav(const Object& objoleEx, const std::optional<std::u16string>& sWorkbookName);
+    void UTBoo(std::optional<std::int32_t> lRun);
     // Shows the comment of the cell that is now selected, and hides that of the one before, which the companion tells.
-    void QSheetSelectionChange(const Object& objoleEx, const std::u16string& sTargetWorksheet,
-                               const std::u16string& sTargetCell);
+    void QSheetSelectionChange(const std::u16string& sTargetWorksheet, const std::u16string& sTargetCell);
 
     // The words of a number below 1000. Raises 9 for a number above 0 until NUMBERTOWORDS has been called once.
     std::u16string HundredsTensUnits(std::int16_t TestValue, std::optional<bool>& UseAnd) const;

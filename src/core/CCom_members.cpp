@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <tuple>
 
 #include "core/CCom.hpp"
 #include "core/MMenu.hpp"
@@ -19,8 +20,6 @@ namespace {
 
 using Row = Member<CCom>;
 
-constexpr std::u16string_view application = u"objoleEx";
-
 void add_state(std::vector<Row>& rows) {
     rows.insert(rows.end(), {
                                 field_property<&CCom::QCurrentTab>(u"QCurrentTab", OnError::pass),
@@ -34,24 +33,9 @@ void add_state(std::vector<Row>& rows) {
                             });
 }
 
-void add_plain_members(std::vector<Row>& rows) {
-    rows.insert(rows.end(),
-                {
-                    property<&CCom::QTitle>(u"QTitle", {}, OnError::pass),
-                    property<&CCom::QCompany>(u"QCompany", {}, OnError::pass),
-                    property<&CCom::QMajor>(u"QMajor", {}, OnError::pass),
-                    property<&CCom::QMinor>(u"QMinor", {}, OnError::pass),
-                    method<&CCom::QGetSetting>(u"QGetSetting", {u"sSection", u"sKey", u"sDefault"}, OnError::pass),
-                    method<&CCom::QSaveSetting>(u"QSaveSetting", {u"sSection", u"sKey", u"sSetting"}, OnError::pass),
-                    method<&CCom::QOpenHelp>(u"QOpenHelp", {application}, OnError::pass),
-                    method<&CCom::QSetCurrDir>(u"QSetCurrDir", {u"sSetCurrDir"}, OnError::pass),
-                    method<&CCom::QSetupFunc>(u"QSetupFunc", {application}, OnError::pass),
-                });
-}
-
 template <class... A, std::size_t... place>
-void call_with(void (*run)(A...), [[maybe_unused]] std::span<Variant> arguments, std::index_sequence<place...>) {
-    run(argument<std::remove_cvref_t<A>>(arguments, place)...);
+std::tuple<A...> converted([[maybe_unused]] std::span<Variant> arguments, std::index_sequence<place...>) {
+    return {argument<A>(arguments, place)...};
 }
 
 // A member that needs neither the object nor the host.
@@ -62,27 +46,64 @@ Row free_method(std::u16string_view name, void (*run)(A...), std::vector<std::u1
             .accesses = accesses::callable,
             .parameters = std::move(parameters),
             .invoke = [run](CCom&, Access, std::span<Variant> arguments) -> Variant {
-                call_with(run, arguments, std::index_sequence_for<A...>());
+                std::apply(run, converted<std::remove_cvref_t<A>...>(arguments, std::index_sequence_for<A...>{}));
                 return {};
             },
             .on_error = on_error};
 }
 
-// A command that shows no form: gExcel is the host's Application while it runs. Its parameters come behind that one.
-template <class... A>
-Row command(std::u16string_view name, void (*run)(A...), std::vector<std::u16string_view> parameters = {},
-            OnError on_error = OnError::raise) {
-    parameters.insert(parameters.begin(), application);
+// A command: gExcel is the host's Application while it runs, and here alone it is set and cleared. One that fails or
+// ends early leaves it set, and the next command overwrites it. The parameters come behind the application; they are
+// converted before the command begins.
+template <class... A, class Run>
+Row command_row(std::u16string_view name, const Run& run, std::vector<std::u16string_view> parameters,
+                OnError on_error) {
+    parameters.insert(parameters.begin(), CCom::application_parameter);
     return {.name = name,
             .accesses = accesses::callable,
             .parameters = std::move(parameters),
-            .invoke = [run](CCom&, Access, std::span<Variant> arguments) -> Variant {
-                gExcel = argument<Object>(arguments, 0);
-                call_with(run, arguments.subspan(1), std::index_sequence_for<A...>());
+            .invoke = [run](CCom& self, Access, std::span<Variant> arguments) -> Variant {
+                Object application = argument<Object>(arguments, 0);
+                const auto values = converted<A...>(arguments.subspan(1), std::index_sequence_for<A...>{});
+                const auto run_it = [&](const A&... value) { return run(self, value...); };
+                gExcel = std::move(application);
+                if constexpr (std::is_same_v<std::invoke_result_t<Run, CCom&, const A&...>, Ending>) {
+                    if (std::apply(run_it, values) == Ending::early) return {};
+                } else {
+                    std::apply(run_it, values);
+                }
                 gExcel = Object();
                 return {};
             },
             .on_error = on_error};
+}
+
+template <class Result, class... A>
+Row command(std::u16string_view name, Result (*run)(A...), std::vector<std::u16string_view> parameters = {},
+            OnError on_error = OnError::raise) {
+    return command_row<std::remove_cvref_t<A>...>(
+        name, [run](CCom&, const auto&... value) { return run(value...); }, std::move(parameters), on_error);
+}
+template <class... A>
+Row command(std::u16string_view name, void (CCom::*run)(A...), std::vector<std::u16string_view> parameters = {},
+            OnError on_error = OnError::raise) {
+    return command_row<std::remove_cvref_t<A>...>(
+        name, [run](CCom& self, const auto&... value) { (self.*run)(value...); }, std::move(parameters), on_error);
+}
+
+void add_plain_members(std::vector<Row>& rows) {
+    rows.insert(rows.end(),
+                {
+                    property<&CCom::QTitle>(u"QTitle", {}, OnError::pass),
+                    property<&CCom::QCompany>(u"QCompany", {}, OnError::pass),
+                    property<&CCom::QMajor>(u"QMajor", {}, OnError::pass),
+                    property<&CCom::QMinor>(u"QMinor", {}, OnError::pass),
+                    method<&CCom::QGetSetting>(u"QGetSetting", {u"sSection", u"sKey", u"sDefault"}, OnError::pass),
+                    method<&CCom::QSaveSetting>(u"QSaveSetting", {u"sSection", u"sKey", u"sSetting"}, OnError::pass),
+                    command(u"QOpenHelp", &CCom::QOpenHelp, {}, OnError::pass),
+                    method<&CCom::QSetCurrDir>(u"QSetCurrDir", {u"sSetCurrDir"}, OnError::pass),
+                    command(u"QSetupFunc", &CCom::QSetupFunc, {}, OnError::pass),
+                });
 }
 
 template <void (*run)()>
@@ -100,9 +121,9 @@ void add_commands(std::vector<Row>& rows) {
                     command(u"UTSetScrAre", on_active_workbook<SetScrollAreas>),
                     command(u"UTCleScrAre", on_active_workbook<ClearScrollAreas>),
                     command(u"UTCleRecFil", ClearRecentFiles, {u"bTB"}),
-                    method<&CCom::UTOpt>(u"UTOpt", {application}, OnError::raise),
-                    method<&CCom::UTAltTem>(u"UTAltTem", {application}, OnError::raise),
-                    method<&CCom::UTBoo>(u"UTBoo", {application, u"lRun"}, OnError::raise),
+                    command(u"UTOpt", &CCom::UTOpt),
+                    command(u"UTAltTem", &CCom::UTAltTem),
+                    command(u"UTBoo", &CCom::UTBoo, {u"lRun"}),
                     method<&CCom::QAbout>(u"QAbout", {}, OnError::raise),
                     free_method(u"UTOpenWWW", OpenWWWURL, {u"sURL"}),
                     free_method(u"UTSendMail", SendMail, {u"sRecipient", u"sCC", u"sBCC", u"sSubject", u"sBody"}),
@@ -124,19 +145,18 @@ void add_menu(std::vector<Row>& rows) {
 }
 
 void add_reactions(std::vector<Row>& rows) {
-    rows.insert(
-        rows.end(),
-        {
-            command(u"QAutoUpdateWindowPositions", QAutoUpdateWindowPositions),
-            command(u"QOptionDeleteEmptyWorksheets", QOptionDeleteEmptyWorksheets, {u"sWorkbookName"}),
-            command(u"QUpdateWindowCaption", QUpdateWindowCaption),
-            command(u"QScrollableArea", QScrollableArea, {u"sWorkbookName", u"sAction"}),
-            command(u"QResLasCelEacWor", QResLasCelEacWor, {}, OnError::pass),
-            method<&CCom::QAlwCreBacBefSav>(u"QAlwCreBacBefSav", {application, u"sWorkbookName"}, OnError::raise),
-            free_method(u"QSetSaveFolder", QSetSaveFolder, {}, OnError::pass),
-            method<&CCom::QSheetSelectionChange>(u"QSheetSelectionChange",
-                                                 {application, u"sTargetWorksheet", u"sTargetCell"}, OnError::pass),
-        });
+    rows.insert(rows.end(),
+                {
+                    command(u"QAutoUpdateWindowPositions", QAutoUpdateWindowPositions),
+                    command(u"QOptionDeleteEmptyWorksheets", QOptionDeleteEmptyWorksheets, {u"sWorkbookName"}),
+                    command(u"QUpdateWindowCaption", QUpdateWindowCaption),
+                    command(u"QScrollableArea", QScrollableArea, {u"sWorkbookName", u"sAction"}),
+                    command(u"QResLasCelEacWor", QResLasCelEacWor, {}, OnError::pass),
+                    command(u"QAlwCreBacBefSav", QAlwCreBacBefSav, {u"sWorkbookName"}),
+                    free_method(u"QSetSaveFolder", QSetSaveFolder, {}, OnError::pass),
+                    command(u"QSheetSelectionChange", &CCom::QSheetSelectionChange,
+                            {u"sTargetWorksheet", u"sTargetCell"}, OnError::pass),
+                });
 }
 
 void do_nothing() {}
@@ -152,14 +172,8 @@ void add_window_toggles(std::vector<Row>& rows) {
 
 void add_tools(std::vector<Row>& rows) {
     for (const Tool& tool : tools()) {
-        rows.push_back({.name = tool.member,
-                        .accesses = accesses::callable,
-                        .parameters = {application},
-                        .invoke = [&tool](CCom& self, Access, std::span<Variant> arguments) -> Variant {
-                            launch(tool, argument<Object>(arguments, 0), self.QHelpFile);
-                            return {};
-                        },
-                        .on_error = OnError::raise});
+        const auto run = [&tool](CCom& self) { launch(tool, self.QHelpFile); };
+        rows.push_back(command_row(tool.member, run, {}, OnError::raise));
     }
 }
 

@@ -162,10 +162,10 @@ Object add_top_popup() {
     return top;
 }
 
-std::u16string bookmark_file() {
+std::u16string own_folder() {
     std::u16string folder;
     attempt([&] { folder = to_text(gExcel.get(names::ThisWorkbook).get(names::Path)); });
-    return folder + u"\\Bookmarks.dat";
+    return folder;
 }
 
 // A control that the host does not let go ends the search on its bar.
@@ -185,7 +185,7 @@ void create_menu(const MacroExists& exists) {
     add_groups(top, exists);
     add_closing_entries(top);
     for (const MenuGroup& group : menu_groups()) restore_place(group.toolbar, command_bar(bar_name(group.toolbar)));
-    fill_bookmark_list(bookmark_file());
+    fill_bookmark_list(own_folder().append(bookmark_file));
     attempt([&] { gExcel.put(names::ScreenUpdating, true); });
 }
 

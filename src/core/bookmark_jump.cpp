@@ -6,7 +6,7 @@
 #include "automation/member_names.hpp"
 #include "core/bookmark_list.hpp"
 #include "ground/MMain.hpp"
-#include "ground/product.hpp"
+#include "ground/message.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CFile.hpp"
@@ -42,10 +42,9 @@ void jump_to_bookmark(const std::u16string& data_file, bool silent) {
     } else if (CFile::FileExists(full_path)) {
         gExcel.get(names::Workbooks).call(names::Open, full_path);
     } else if (!silent) {
-        environment().screen.message_box({.title = std::u16string(product::title),
-                                          .text = u"Sorry, but the file associated with this bookmark no longer "
-                                                  u"exists.  Please modify the bookmark.",
-                                          .icon = MessageIcon::critical});
+        show_message(
+            u"Sorry, but the file associated with this bookmark no longer exists.  Please modify the bookmark.",
+            MessageIcon::critical);
     }
 }
 

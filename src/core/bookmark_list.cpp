@@ -2,6 +2,7 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
+#include "ground/message.hpp"
 #include "ground/product.hpp"
 #include "runtime/conversion.hpp"
 #include "services/CFile.hpp"
@@ -39,10 +40,8 @@ Object visible_bookmark_list() {
 
 void fill_bookmark_list(const std::u16string& data_file) {
     if (!CFile::FileExists(data_file)) {
-        environment().screen.message_box(
-            {.title = std::u16string(product::title),
-             .text = u"Sorry, but the filename " + data_file + u" is missing.  Please contact technical support.",
-             .icon = MessageIcon::critical});
+        show_message(u"Sorry, but the filename " + data_file + u" is missing.  Please contact technical support.",
+                     MessageIcon::critical);
         return;
     }
     const Object list = bookmark_list();

@@ -8,7 +8,10 @@
 // The drop-down list of bookmarks on a toolbar of the host.
 namespace qor {
 
-// What it shows where there are none.
+// The data file of the bookmarks, behind the data folder.
+inline constexpr std::u16string_view bookmark_file = u"\\Bookmarks.dat";
+
+// What the list shows where there are none.
 inline constexpr std::u16string_view no_bookmarks = u"(Bookmarks)";
 
 // Wherever the user has moved it; null where there is none.

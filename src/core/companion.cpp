@@ -4,6 +4,7 @@
 #include "automation/member_names.hpp"
 #include "core/macros.hpp"
 #include "core/tool_table.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
@@ -39,6 +40,20 @@ const MemberName UTSavWorEve{u"UTSavWorEve"};
 std::u16string step_title(const Macro& macro) {
     const Tool* tool = find_tool(MemberName(macro.member));
     return std::u16string(tool ? tool->title : macro.member);
+}
+
+Variant stored(const Object& com, const OptionRow& row) {
+    return com.call(member::QGetSetting, option::section, row.key, row.standard);
+}
+
+Companion::Interval interval(const Object& com, const TruthOption& wanted, const NumberOption& every) {
+    Companion::Interval result;
+    attempt([&] {
+        if (!to_boolean(stored(com, wanted))) return;
+        const std::int32_t minutes = to_long(stored(com, every));
+        if (minutes > 0) result = std::chrono::minutes(minutes);
+    });
+    return result;
 }
 
 }  // namespace
@@ -117,10 +132,10 @@ void Companion::selection_changed(const std::u16string& worksheet, const std::u1
 }
 
 Companion::Interval Companion::save_interval() const {
-    return interval(u"chkT3SaveWorkbooksEvery", u"txtT3SaveWorkbooksEvery", u"10");
+    return interval(com_, option::chkT3SaveWorkbooksEvery, option::txtT3SaveWorkbooksEvery);
 }
 Companion::Interval Companion::review_interval() const {
-    return interval(u"chkT4UseCellEvents", u"txtT4CellEventMinutes", u"1");
+    return interval(com_, option::chkT4UseCellEvents, option::txtT4CellEventMinutes);
 }
 
 void Companion::save_by_time() {
@@ -128,21 +143,6 @@ void Companion::save_by_time() {
 }
 void Companion::review_by_time() {
     react(member::UTCelEveRev, host_.application);
-}
-
-Companion::Interval Companion::interval(std::u16string_view switch_key, std::u16string_view minutes_key,
-                                        std::u16string_view standard) const {
-    Interval result;
-    attempt([&] {
-        if (!to_boolean(option(switch_key, u"0"))) return;
-        const std::int32_t minutes = to_long(option(minutes_key, standard));
-        if (minutes > 0) result = std::chrono::minutes(minutes);
-    });
-    return result;
-}
-
-std::u16string Companion::option(std::u16string_view key, std::u16string_view standard) const {
-    return to_text(com_.call(member::QGetSetting, u"Options", std::u16string(key), std::u16string(standard)));
 }
 
 }  // namespace qor

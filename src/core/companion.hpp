@@ -56,9 +56,6 @@ class Companion {
     // Calls a member that answers an event. Its failure is nobody's concern: the user has asked for nothing.
     template <class... Arguments>
     void react(const MemberName& member, Arguments&&... arguments);
-    Interval interval(std::u16string_view switch_key, std::u16string_view minutes_key,
-                      std::u16string_view standard) const;
-    std::u16string option(std::u16string_view key, std::u16string_view standard) const;
 
     Object com_;
     Host host_;

@@ -1,7 +1,7 @@
 #include "core/frmAbout.hpp"
 
 #include "ground/product.hpp"
-#include "platform/text.hpp"
+#include "runtime/conversion.hpp"
 
 namespace qor {
 
@@ -11,8 +11,8 @@ frmAbout::frmAbout() : ToolForm(u"frmAbout") {
 
 void frmAbout::on_load() {
     lblTitle.set_text(AppTitle);
-    lblVersion.set_text(u"Version: " + std::u16string(product::version) + u"  Build (" +
-                        from_utf8(std::to_string(product::revision)) + u")");
+    lblVersion.set_text(u"Version: " + std::u16string(product::version) + u"  Build (" + to_text(product::revision) +
+                        u")");
     lblDisclaimer.set_text(std::u16string(product::legal_notice));
 }
 

@@ -1,7 +1,6 @@
 #include "core/frmOptions.hpp"
 
 #include "ground/CReg.hpp"
-#include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDiag.hpp"
@@ -10,26 +9,12 @@
 namespace qor {
 namespace {
 
-constexpr std::u16string_view section = u"Options";
-
-std::u16string number_text(std::int32_t number) {
-    return from_utf8(std::to_string(number));
+std::u16string read(const OptionRow& row) {
+    return CReg(environment().settings).GetSetting(RootKey::current_user, option::section, row.key, row.shown);
 }
 
-int count_of(const Options& options) {
-    return static_cast<int>(options.captions().size());
-}
-
-std::u16string key_of(const Options& options, int button) {
-    return options.name() + number_text(button);
-}
-
-std::u16string read(std::u16string_view key, std::u16string_view standard) {
-    return CReg(environment().settings).GetSetting(RootKey::current_user, section, key, standard);
-}
-
-void write(std::u16string_view key, std::u16string_view value) {
-    CReg(environment().settings).SaveSetting(RootKey::current_user, section, key, value);
+void write(const OptionRow& row, std::u16string_view value) {
+    CReg(environment().settings).SaveSetting(RootKey::current_user, option::section, row.key, value);
 }
 
 }  // namespace
@@ -62,104 +47,96 @@ frmOptions::frmOptions() : ToolForm(u"frmOptions") {
 }
 
 void frmOptions::add_settings() {
-    add(chkT1AutoAdjWin);
-    add(rdoT1AutoAdjWin);
-    add(chkT1AutoAdjWinWorkbookOnly);
-    add(chkT1AddFullFilePath);
-    add(chkT1DeleteRecentFiles);
-    add(chkT2AlwaysCreateBackupUponSave);
-    add_text(txtT2AlwaysCreateBackupUponSave, u"");
-    add(chkT2WarnBackupExists, u"-1");
-    add(chkT2DefaultSave);
-    add_text(txtT2DefaultSaveFolder, u"");
-    add(chkT2AlternateTemplate);
-    add_text(txtT2AlternateTemplateFile, u"");
-    add(chkT3AutoDeleteEmptyWorksheets);
-    add(chkT3SaveWorkbooksEvery);
-    add_text(txtT3SaveWorkbooksEvery, u"10");
-    add(chkT3AutoSaveB4Close);
-    add(chkT3ShowHiddenWorkbooks);
-    add(chkT4ResetLastCellUponSave, u"-1");
-    add(chkT4SetScrollArea);
-    add(chkT4ShowHiddenWorksheets);
-    add(chkT4UseCellEvents);
-    add_text(txtT4CellEventMinutes, u"1");
-    add(chkT4ViewCellCommentsUponEntry);
-    add(chkT5ReportNewWorkbook);
-    add(rdoT5ReportLocation);
-    add(chkT6InsSinCol);
-    add_background(cmdT6InsSinCol[0], u"T6BInsSinCol");
-    add_text_color(cmdT6InsSinCol[1], u"T6FInsSinCol");
-    add(chkT6InsSinColACW);
-    add_text(txtT6InsSinCol, u"");
-    add_text(txtT6InsCol, u"1");
-    add(chkT6InsSinRow);
-    add_background(cmdT6InsSinRow[0], u"T6BInsSinRow");
-    add_text_color(cmdT6InsSinRow[1], u"T6FInsSinRow");
-    add(chkT6InsSinRowARH);
-    add_text(txtT6InsSinRow, u"");
-    add_text(txtT6InsRow, u"1");
+    add(chkT1AutoAdjWin, option::chkT1AutoAdjWin);
+    add(rdoT1AutoAdjWin, option::rdoT1AutoAdjWin);
+    add(chkT1AutoAdjWinWorkbookOnly, option::chkT1AutoAdjWinWorkbookOnly);
+    add(chkT1AddFullFilePath, option::chkT1AddFullFilePath);
+    add(chkT1DeleteRecentFiles, option::chkT1DeleteRecentFiles);
+    add(chkT2AlwaysCreateBackupUponSave, option::chkT2AlwaysCreateBackupUponSave);
+    add(txtT2AlwaysCreateBackupUponSave, option::txtT2AlwaysCreateBackupUponSave);
+    add(chkT2WarnBackupExists, option::chkT2WarnBackupExists);
+    add(chkT2DefaultSave, option::chkT2DefaultSave);
+    add(txtT2DefaultSaveFolder, option::txtT2DefaultSaveFolder);
+    add(chkT2AlternateTemplate, option::chkT2AlternateTemplate);
+    add(txtT2AlternateTemplateFile, option::txtT2AlternateTemplateFile);
+    add(chkT3AutoDeleteEmptyWorksheets, option::chkT3AutoDeleteEmptyWorksheets);
+    add(chkT3SaveWorkbooksEvery, option::chkT3SaveWorkbooksEvery);
+    add(txtT3SaveWorkbooksEvery, option::txtT3SaveWorkbooksEvery);
+    add(chkT3AutoSaveB4Close, option::chkT3AutoSaveB4Close);
+    add(chkT3ShowHiddenWorkbooks, option::chkT3ShowHiddenWorkbooks);
+    add(chkT4ResetLastCellUponSave, option::chkT4ResetLastCellUponSave);
+    add(chkT4SetScrollArea, option::chkT4SetScrollArea);
+    add(chkT4ShowHiddenWorksheets, option::chkT4ShowHiddenWorksheets);
+    add(chkT4UseCellEvents, option::chkT4UseCellEvents);
+    add(txtT4CellEventMinutes, option::txtT4CellEventMinutes);
+    add(chkT4ViewCellCommentsUponEntry, option::chkT4ViewCellCommentsUponEntry);
+    add(chkT5ReportNewWorkbook, option::chkT5ReportNewWorkbook);
+    add(rdoT5ReportLocation, option::rdoT5ReportLocation);
+    add(chkT6InsSinCol, option::chkT6InsSinCol);
+    add(cmdT6InsSinCol[0], option::T6BInsSinCol, &Swatch::back_color, &Swatch::set_back_color);
+    add(cmdT6InsSinCol[1], option::T6FInsSinCol, &Swatch::fore_color, &Swatch::set_fore_color);
+    add(chkT6InsSinColACW, option::chkT6InsSinColACW);
+    add(txtT6InsSinCol, option::txtT6InsSinCol);
+    add(txtT6InsCol, option::txtT6InsCol);
+    add(chkT6InsSinRow, option::chkT6InsSinRow);
+    add(cmdT6InsSinRow[0], option::T6BInsSinRow, &Swatch::back_color, &Swatch::set_back_color);
+    add(cmdT6InsSinRow[1], option::T6FInsSinRow, &Swatch::fore_color, &Swatch::set_fore_color);
+    add(chkT6InsSinRowARH, option::chkT6InsSinRowARH);
+    add(txtT6InsSinRow, option::txtT6InsSinRow);
+    add(txtT6InsRow, option::txtT6InsRow);
 }
 
-void frmOptions::add(CheckBox& box, std::u16string_view standard) {
+void frmOptions::add(CheckBox& box, const TruthOption& row) {
     box.on_click = [this, &box, place = settings_.size()] {
         touch(place);
         follow(box);
     };
-    settings_.push_back({box.name(),
-                         [this, &box, standard] {
-                             attempt([&] { box.set_checked(to_boolean(read(box.name(), standard))); });
+    settings_.push_back({row,
+                         [this, &box, &row] {
+                             attempt([&] { box.set_checked(to_boolean(read(row))); });
                              follow(box);
                          },
-                         [&box] { write(box.name(), box.checked() ? u"-1" : u"0"); }});
-}
-
-template <class Box>
-void frmOptions::add_text(Box& box, std::u16string_view standard) {
-    TextEntry& entry = box.box;
-    box.Change = [this, place = settings_.size()] { touch(place); };
-    settings_.push_back({entry.name(), [&entry, standard] { entry.set_text(read(entry.name(), standard)); },
-                         [&entry] { write(entry.name(), entry.text()); }});
+                         [&box, &row] { write(row, box.checked() ? u"-1" : u"0"); }});
 }
 
 // Each button has a key of its own. They are written together, since those who read them have defaults of their own.
-void frmOptions::add(Options& options) {
+void frmOptions::add(Options& options, std::span<const ButtonOption> buttons) {
     options.on_click = [this, place = settings_.size()](int) { touch(place); };
-    settings_.push_back({options.name(),
-                         [&options] {
-                             for (int button = 0; button < count_of(options); ++button) {
+    settings_.push_back({buttons.front(),
+                         [&options, buttons] {
+                             for (std::size_t place = 0; place < buttons.size(); ++place) {
                                  attempt([&] {
-                                     if (to_boolean(read(key_of(options, button), u"False"))) options.choose(button);
+                                     if (to_boolean(read(buttons[place]))) options.choose(static_cast<int>(place));
                                  });
                              }
                          },
-                         [&options] {
-                             for (int button = 0; button < count_of(options); ++button) {
-                                 write(key_of(options, button), options.chosen() == button ? u"True" : u"False");
+                         [&options, buttons] {
+                             for (std::size_t place = 0; place < buttons.size(); ++place) {
+                                 const bool chosen = options.chosen() == static_cast<int>(place);
+                                 write(buttons[place], chosen ? u"True" : u"False");
                              }
                          }});
 }
 
-void frmOptions::add_background(Swatch& swatch, std::u16string_view key) {
-    swatch.on_click = [this, &swatch, place = settings_.size()] {
-        if (const auto color = pick_color()) {
-            swatch.set_back_color(*color);
-            touch(place);
-        }
-    };
-    settings_.push_back({key, [&swatch, key] { swatch.set_back_color(to_long(read(key, u"0"))); },
-                         [&swatch, key] { write(key, number_text(swatch.back_color())); }});
+template <class Box, OptionKind kind>
+requires(kind == OptionKind::text || kind == OptionKind::number) void frmOptions::add(Box& box,
+                                                                                      const Option<kind>& row) {
+    TextEntry& entry = box.box;
+    box.Change = [this, place = settings_.size()] { touch(place); };
+    settings_.push_back(
+        {row, [&entry, &row] { entry.set_text(read(row)); }, [&entry, &row] { write(row, entry.text()); }});
 }
 
-void frmOptions::add_text_color(Swatch& swatch, std::u16string_view key) {
-    swatch.on_click = [this, &swatch, place = settings_.size()] {
-        if (const auto color = pick_color()) {
-            swatch.set_fore_color(*color);
+void frmOptions::add(Swatch& swatch, const ColorOption& row, std::int32_t (Swatch::*color)() const,
+                     void (Swatch::*set_color)(std::int32_t)) {
+    swatch.on_click = [this, &swatch, set_color, place = settings_.size()] {
+        if (const auto picked = pick_color()) {
+            (swatch.*set_color)(*picked);
             touch(place);
         }
     };
-    settings_.push_back({key, [&swatch, key] { swatch.set_fore_color(to_long(read(key, u"0"))); },
-                         [&swatch, key] { write(key, number_text(swatch.fore_color())); }});
+    settings_.push_back({row, [&swatch, &row, set_color] { (swatch.*set_color)(to_long(read(row))); },
+                         [&swatch, &row, color] { write(row, to_text((swatch.*color)())); }});
 }
 
 void frmOptions::IsDirty(bool dirty) {
@@ -228,7 +205,7 @@ void frmOptions::apply() {
     for (const Setting& setting : settings_) {
         if (!setting.touched) continue;
         setting.store();
-        if (setting.key == chkT1AddFullFilePath.name()) attempt([] { QUpdateWindowCaption(); });
+        if (&setting.row == &option::chkT1AddFullFilePath) attempt([] { QUpdateWindowCaption(); });
     }
     cmdButton(0).set_enabled(false);
     cmdButton(2).set_enabled(false);

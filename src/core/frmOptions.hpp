@@ -3,8 +3,10 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
+#include "ground/option_table.hpp"
 #include "ground/tool_form.hpp"
 #include "services/ctlBrowse.hpp"
 #include "services/ctlDiag.hpp"
@@ -112,9 +114,9 @@ class frmOptions final : public ToolForm {
     void on_unload() override;
 
   private:
-    // What the user sets, and how it is read from its key and written to it.
+    // What the user sets, and how it is read and written.
     struct Setting {
-        std::u16string_view key;
+        const OptionRow& row;  // of option buttons, that of the first one
         std::function<void()> load;
         std::function<void()> store;
         bool touched = false;  // by the user
@@ -130,13 +132,13 @@ class frmOptions final : public ToolForm {
         TextEntry* path;
     };
 
-    // The second text is what is shown as long as nothing is stored.
-    void add(CheckBox& box, std::u16string_view standard = u"0");
-    template <class Box>
-    void add_text(Box& box, std::u16string_view standard);
-    void add(Options& options);
-    void add_background(Swatch& swatch, std::u16string_view key);
-    void add_text_color(Swatch& swatch, std::u16string_view key);
+    void add(CheckBox& box, const TruthOption& row);
+    void add(Options& options, std::span<const ButtonOption> buttons);
+    template <class Box, OptionKind kind>
+    requires(kind == OptionKind::text || kind == OptionKind::number) void add(Box& box, const Option<kind>& row);
+    // The members of the swatch are those of the colour that the option sets.
+    void add(Swatch& swatch, const ColorOption& row, std::int32_t (Swatch::*color)() const,
+             void (Swatch::*set_color)(std::int32_t));
     void add_settings();
 
     void touch(std::size_t setting);

@@ -5,9 +5,8 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
-#include "ground/product.hpp"
-#include "ground/text_option.hpp"
+#include "ground/message.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDrive.hpp"
@@ -18,14 +17,14 @@ namespace qor {
 namespace {
 
 struct ArrangeOption {
-    std::u16string_view name;
+    const ButtonOption* button;
     std::int32_t style;  // the host's number
 };
 constexpr std::array arrange_options{
-    ArrangeOption{u"rdoT1AutoAdjWin0", 1},
-    ArrangeOption{u"rdoT1AutoAdjWin1", -4128},
-    ArrangeOption{u"rdoT1AutoAdjWin2", -4166},
-    ArrangeOption{u"rdoT1AutoAdjWin3", 7},
+    ArrangeOption{&option::rdoT1AutoAdjWin[0], 1},
+    ArrangeOption{&option::rdoT1AutoAdjWin[1], -4128},
+    ArrangeOption{&option::rdoT1AutoAdjWin[2], -4166},
+    ArrangeOption{&option::rdoT1AutoAdjWin[3], 7},
 };
 
 std::vector<Variant> worksheets_of(const std::u16string& workbook) {
@@ -74,32 +73,30 @@ void set_kept_scroll_areas(const std::u16string& workbook) {
 }
 
 bool may_replace_backup() {
-    return environment().screen.message_box({.title = std::u16string(product::title),
-                                             .text = u"Do you wish to replace existing backup?",
-                                             .buttons = MessageButtons::yes_no}) == MessageAnswer::yes;
+    return show_message(u"Do you wish to replace existing backup?", MessageIcon::none, MessageButtons::yes_no) ==
+           MessageAnswer::yes;
 }
 
 }  // namespace
 
 void QAutoUpdateWindowPositions() {
-    if (!boolean_option(u"chkT1AutoAdjWin", u"0")) return;
+    if (!is_on(option::chkT1AutoAdjWin)) return;
     std::optional<std::int32_t> style;
-    for (const ArrangeOption& option : arrange_options) {
-        if (boolean_option(option.name, u"0") && !style) style = option.style;
+    for (const ArrangeOption& arranging : arrange_options) {
+        if (is_on(*arranging.button) && !style) style = arranging.style;
     }
-    const bool active_workbook_only = boolean_option(u"chkT1AutoAdjWinWorkbookOnly", u"0");
+    const bool active_workbook_only = is_on(option::chkT1AutoAdjWinWorkbookOnly);
     if (!style) return;
     const Variant& owner = active_workbook_only ? gExcel.get(names::ActiveWorkbook) : Variant(gExcel);
     owner.get(names::Windows).call(names::Arrange, *style, active_workbook_only);
 }
 
 void QOptionDeleteEmptyWorksheets(const std::optional<std::u16string>& sWorkbookName) {
-    if (boolean_option(u"chkT3AutoDeleteEmptyWorksheets", u"0"))
-        DeleteEmptyWorksheets(sWorkbookName.value_or(std::u16string()));
+    if (is_on(option::chkT3AutoDeleteEmptyWorksheets)) DeleteEmptyWorksheets(sWorkbookName.value_or(std::u16string()));
 }
 
 void QScrollableArea(const std::u16string& sWorkbookName, const std::u16string& sAction) {
-    if (!boolean_option(u"chkT4SetScrollArea", u"0")) return;
+    if (!is_on(option::chkT4SetScrollArea)) return;
     if (sAction == u"SAVE") {
         keep_scroll_areas(sWorkbookName);
     } else {
@@ -107,24 +104,24 @@ void QScrollableArea(const std::u16string& sWorkbookName, const std::u16string& 
     }
 }
 
-bool QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName) {
-    if (!boolean_option(u"chkT2AlwaysCreateBackupUponSave", u"0")) return true;
-    const bool warns = boolean_option(u"chkT2WarnBackupExists", u"0");
-    std::u16string folder(trim(text_option(u"txtT2AlwaysCreateBackupUponSave")));
-    if (!CFile::FolderExists(folder)) return false;
+Ending QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName) {
+    if (!is_on(option::chkT2AlwaysCreateBackupUponSave)) return Ending::complete;
+    const bool warns = is_on(option::chkT2WarnBackupExists);
+    std::u16string folder(trim(text_of(option::txtT2AlwaysCreateBackupUponSave)));
+    if (!CFile::FolderExists(folder)) return Ending::early;
     if (!folder.ends_with(u'\\') && !folder.ends_with(u'/')) folder += u'\\';
     const std::u16string name = sWorkbookName.value_or(std::u16string());
     const Variant workbook = gExcel.get(names::Workbooks, name);
-    if (to_text(workbook.get(names::Path)).empty()) return false;
+    if (to_text(workbook.get(names::Path)).empty()) return Ending::early;
     const std::u16string backup = folder + CFile::GetFileNameWOExt(name) + u".xlk";
     if (!warns || !CFile::FileExists(backup) || may_replace_backup()) workbook.call(names::SaveCopyAs, backup);
-    return true;
+    return Ending::complete;
 }
 
 void QSetSaveFolder() {
     attempt([] {
-        if (!boolean_option(u"chkT2DefaultSave", u"0")) return;
-        const std::u16string folder(trim(text_option(u"txtT2DefaultSaveFolder")));
+        if (!is_on(option::chkT2DefaultSave)) return;
+        const std::u16string folder(trim(text_of(option::txtT2DefaultSaveFolder)));
         if (!folder.empty()) CDrive::SetCurrDir(folder);
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -7,14 +8,17 @@
 // while that is off. gExcel is set by the caller. What the host raises is raised on but where it is said otherwise.
 namespace qor {
 
+// How a command ended. One that ended early leaves gExcel set, as one that failed does.
+enum class Ending : std::uint8_t { complete, early };
+
 // Arranges the windows in the user's style, after a workbook has been opened.
 void QAutoUpdateWindowPositions();
 void QOptionDeleteEmptyWorksheets(const std::optional<std::u16string>& sWorkbookName);
 // Keeps the scroll areas of the worksheets in document properties of their names ("SAVE"), or sets them from there.
 void QScrollableArea(const std::u16string& sWorkbookName, const std::u16string& sAction);
-// Copies the workbook into the backup folder, before it is saved. False when it ends early, since there is no such
-// folder or the workbook has no file yet.
-bool QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName);
+// Copies the workbook into the backup folder, before it is saved. It ends early where there is no such folder and where
+// the workbook has no file yet.
+Ending QAlwCreBacBefSav(const std::optional<std::u16string>& sWorkbookName);
 // Makes the default folder for saving the current one. Raises nothing.
 void QSetSaveFolder();
 

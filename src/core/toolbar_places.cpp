@@ -3,7 +3,6 @@
 #include "automation/member_names.hpp"
 #include "ground/CReg.hpp"
 #include "ground/MMain.hpp"
-#include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
@@ -34,7 +33,7 @@ void restore_place(const MenuToolbar& toolbar, const Object& bar) {
     const auto restore = [&](const MemberName& property, std::int32_t standard) {
         std::int32_t value = standard;
         attempt([&] {
-            value = to_long(kept(toolbar, property, from_utf8(std::to_string(standard))));
+            value = to_long(kept(toolbar, property, to_text(standard)));
             bar.put(property, value);
         });
         return value;

@@ -8,7 +8,7 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "reports/cell_area.hpp"
 #include "runtime/clock.hpp"
 #include "runtime/conversion.hpp"
@@ -30,13 +30,13 @@ constexpr std::int32_t color_automatic = -4105;
 // Adds the workbook or the worksheet that takes the report; either becomes the active one.
 void make_destination() {
     bool new_workbook = false;
-    attempt([&] { new_workbook = boolean_option(u"chkT5ReportNewWorkbook", u"-1"); });
+    attempt([&] { new_workbook = is_on(option::chkT5ReportNewWorkbook); });
     if (new_workbook) {
         gExcel.get(names::Workbooks).call(names::Add);
         return;
     }
     bool first = false;
-    attempt([&] { first = boolean_option(u"rdoT5ReportLocation0", u"-1"); });
+    attempt([&] { first = is_on(option::rdoT5ReportLocation[0]); });
     const Object worksheets = gExcel.get(names::ActiveWorkbook).get(names::Worksheets);
     if (first) {
         worksheets.call(names::Add, named(names::Before, worksheets.get(names::Item, 1)));

@@ -1,8 +1,7 @@
 #include "services/ctlBrowse.hpp"
 
 #include "automation/error.hpp"
-#include "ground/MMain.hpp"
-#include "ground/product.hpp"
+#include "ground/message.hpp"
 #include "runtime/trim.hpp"
 #include "services/CDiag.hpp"
 #include "services/CFile.hpp"
@@ -19,9 +18,7 @@ void ctlBrowse::leave() {
     if (trim(box.text()).empty()) return;
     FolderExists = CFile::FolderExists(box.text());
     if (FolderExists) return;
-    environment().screen.message_box({.title = std::u16string(product::title),
-                                      .text = u"The folder displayed does not exists.  Please enter a valid folder.",
-                                      .icon = MessageIcon::information});
+    show_message(u"The folder displayed does not exists.  Please enter a valid folder.", MessageIcon::information);
 }
 
 void ctlBrowse::pick() {

@@ -2,7 +2,7 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
@@ -70,8 +70,8 @@ ctlTree::ctlTree(Form& form, std::u16string name)
 }
 
 void ctlTree::LoadExcel() {
-    attempt([&] { ShowHiddenWorkbooks = boolean_option(u"chkT3ShowHiddenWorkbooks", u"0"); });
-    attempt([&] { ShowHiddenWorksheets = boolean_option(u"chkT4ShowHiddenWorksheets", u"0"); });
+    attempt([&] { ShowHiddenWorkbooks = is_on(option::chkT3ShowHiddenWorkbooks); });
+    attempt([&] { ShowHiddenWorksheets = is_on(option::chkT4ShowHiddenWorksheets); });
     forget_nodes();
     treQOR.clear();
     TreeNode& root = treQOR.add(nullptr, Relationship::child, u"ROOT", u"Excel Workbook Windows", unchecked);

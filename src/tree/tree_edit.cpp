@@ -3,7 +3,7 @@
 
 #include "automation/member_names.hpp"
 #include "ground/host_state.hpp"
-#include "ground/product.hpp"
+#include "ground/message.hpp"
 #include "runtime/conversion.hpp"
 #include "tree/ctlTree.hpp"
 #include "tree/tree_nodes.hpp"
@@ -26,17 +26,13 @@ void ctlTree::rename_worksheet(const std::u16string& text, bool& cancel) {
 void ctlTree::ask_to_delete(TreeNode& node, bool& cancel) {
     cancel = true;
     if (node.level() != 3) return;
-    Screen& screen = treQOR.form().screen();
     if (node.parent()->child_count() < 2) {
-        screen.message_box({.title = std::u16string(product::title),
-                            .text = u"Cannot delete since a workbook must have at least one worksheet.",
-                            .icon = MessageIcon::critical});
+        show_message(u"Cannot delete since a workbook must have at least one worksheet.", MessageIcon::critical);
         return;
     }
-    const MessageAnswer answer = screen.message_box({.title = std::u16string(product::title),
-                                                     .text = u"Choose OK to confirm the deletion of worksheet named " +
-                                                             node.text() + u".  Otherwise choose Cancel.",
-                                                     .buttons = MessageButtons::ok_cancel});
+    const MessageAnswer answer = show_message(
+        u"Choose OK to confirm the deletion of worksheet named " + node.text() + u".  Otherwise choose Cancel.",
+        MessageIcon::none, MessageButtons::ok_cancel);
     if (answer != MessageAnswer::ok) return;
     cancel = false;
     delete_worksheet(node);

@@ -2,7 +2,7 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
@@ -33,7 +33,7 @@ void save_new(const Variant& workbook) {
 }  // namespace
 
 bool saves_before_close() {
-    return boolean_option(u"chkT3AutoSaveB4Close", u"0");
+    return is_on(option::chkT3AutoSaveB4Close);
 }
 
 void close_workbook(const Variant& workbook, bool saves_files) {

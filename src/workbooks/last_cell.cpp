@@ -2,7 +2,7 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
@@ -62,7 +62,7 @@ void reset_last_cell(const Variant& sheet) {
 
 void QResLasCelEacWor() {
     attempt([] {
-        if (!boolean_option(u"chkT4ResetLastCellUponSave", u"-1")) return;
+        if (!is_on(option::chkT4ResetLastCellUponSave)) return;
         for (const Variant& sheet : gExcel.get(names::ActiveWorkbook).get(names::Worksheets).object().items())
             reset_last_cell(sheet);
     });

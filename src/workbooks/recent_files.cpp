@@ -2,13 +2,13 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
 
 void ClearRecentFiles(const std::optional<bool>& always) {
-    if (!always.value_or(false) && !boolean_option(u"chkT1DeleteRecentFiles", u"0")) return;
+    if (!always.value_or(false) && !is_on(option::chkT1DeleteRecentFiles)) return;
     const Variant shown = gExcel.get(names::DisplayRecentFiles);
     const Object files = gExcel.get(names::RecentFiles);
     const Variant most = files.get(names::Maximum);

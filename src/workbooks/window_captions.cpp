@@ -2,8 +2,8 @@
 
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
-#include "ground/boolean_option.hpp"
 #include "ground/host_state.hpp"
+#include "ground/option_table.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor {
@@ -51,7 +51,7 @@ std::u16string caption_of(const Variant& workbook, bool full_path) {
 void QUpdateWindowCaption() {
     const SwitchedOff screen_updating(names::ScreenUpdating);
     ActivePlace place;
-    const bool full_path = boolean_option(u"chkT1AddFullFilePath", u"0");
+    const bool full_path = is_on(option::chkT1AddFullFilePath);
     for (const Variant& workbook : gExcel.get(names::Workbooks).object().items()) {
         workbook.call(names::Activate);
         const Variant windows = gExcel.get(names::ActiveWorkbook).get(names::Windows);

@@ -11,6 +11,7 @@
 #include "core/tool_table.hpp"
 #include "functions/registry.hpp"
 #include "ground/MMain.hpp"
+#include "platform/text.hpp"
 #include "screens/script/script_screen.hpp"
 #include "tests/fakes/memory_settings.hpp"
 
@@ -171,6 +172,36 @@ TEST_CASE("a tool needs the application: without one, or with what is none, the 
     CHECK(attempt([&] { com.call(UTWorSum, 5); }) == 424);
     CHECK(attempt([&] { com.call(UTWorSum, Object()); }) == 91);
     gExcel = Object();
+}
+
+TEST_CASE("a command that fails leaves the application in gExcel, one that comes to its end does not") {
+    Installation installation;  // whose application refuses everything
+    const Object com = make_object<CCom>();
+    std::size_t failed = 0;
+    for (const Member<CCom>& member : CCom::members().rows()) {
+        if (member.parameters.empty() || member.parameters.front() != u"objoleEx") continue;
+        CAPTURE(to_utf8(member.name));
+        gExcel = Object();
+        std::vector<Variant> arguments(member.parameters.size(), u"1");
+        arguments[0] = installation.application_object;
+        installation.screen.begin_call(nlohmann::json::object());
+        const std::int32_t error = attempt([&] { com.invoke(MemberName(member.name), Access::call, {arguments, {}}); });
+        installation.screen.end_call();
+        CHECK(static_cast<bool>(gExcel) == (error != 0));
+        failed += error != 0 ? 1 : 0;
+    }
+    CHECK(failed > 20);
+    gExcel = Object();
+}
+
+TEST_CASE("an argument that does not convert ends a command before it begins") {
+    Installation installation;
+    const Object com = make_object<CCom>();
+    for (const auto* member : {u"UTBoo", u"UTCleRecFil"}) {
+        CHECK(attempt([&] { com.call(MemberName(member), installation.application_object, u"soon"); }) == 13);
+        CHECK_FALSE(gExcel);
+    }
+    CHECK(installation.application->accesses.empty());
 }
 
 TEST_CASE("help opens at its contents, and a refusal is passed over") {

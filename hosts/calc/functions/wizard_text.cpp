@@ -3,27 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "functions/function_words.hpp"
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 
 namespace qor::calc {
 namespace {
-
-std::u16string_view kind_text(ValueKind kind) {
-    switch (kind) {
-        case ValueKind::number:
-            return u"A number";
-        case ValueKind::whole_number:
-            return u"A whole number";
-        case ValueKind::variant:
-            return u"A value of any kind";
-        case ValueKind::text:
-            return u"A text";
-        case ValueKind::boolean:
-            return u"TRUE or FALSE";
-    }
-    return u"A value";
-}
 
 // Calc takes all arguments for optional, so the text says what becomes of one that is left out.
 std::u16string need_text(const Parameter& parameter) {
@@ -35,19 +20,7 @@ std::u16string need_text(const Parameter& parameter) {
 }  // namespace
 
 std::u16string_view calc_category(Category category) {
-    switch (category) {
-        case Category::financial:
-            return u"Financial";
-        case Category::date_and_time:
-            return u"Date&Time";
-        case Category::text:
-            return u"Text";
-        case Category::logical:
-            return u"Logical";
-        case Category::information:
-            return u"Information";
-    }
-    return u"Add-In";
+    return category == Category::date_and_time ? u"Date&Time" : category_name(category);
 }
 
 std::u16string display_name(const Function& function) {
@@ -57,7 +30,7 @@ std::u16string display_name(const Function& function) {
 }
 
 std::u16string parameter_description(const Parameter& parameter) {
-    return std::u16string(kind_text(parameter.kind)) + u"; " + need_text(parameter) + u".";
+    return std::u16string(kind_phrase(parameter.kind)) + u"; " + need_text(parameter) + u".";
 }
 
 }  // namespace qor::calc
