@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/boolean_option.hpp"
@@ -19,13 +20,13 @@ namespace {
 
 struct ArrangeOption {
     std::u16string_view name;
-    std::int32_t style;  // the host's number
+    ArrangeStyle style;
 };
 constexpr std::array arrange_options{
-    ArrangeOption{u"rdoT1AutoAdjWin0", 1},
-    ArrangeOption{u"rdoT1AutoAdjWin1", -4128},
-    ArrangeOption{u"rdoT1AutoAdjWin2", -4166},
-    ArrangeOption{u"rdoT1AutoAdjWin3", 7},
+    ArrangeOption{u"rdoT1AutoAdjWin0", ArrangeStyle::tiled},
+    ArrangeOption{u"rdoT1AutoAdjWin1", ArrangeStyle::horizontal},
+    ArrangeOption{u"rdoT1AutoAdjWin2", ArrangeStyle::vertical},
+    ArrangeOption{u"rdoT1AutoAdjWin3", ArrangeStyle::cascade},
 };
 
 std::vector<Variant> worksheets_of(const std::u16string& workbook) {
@@ -48,7 +49,6 @@ std::vector<Property> custom_properties_of(const std::u16string& workbook) {
 }
 
 void keep_scroll_areas(const std::u16string& workbook) {
-    constexpr std::int32_t text_property = 4;
     const std::vector<Property> properties = custom_properties_of(workbook);
     for (const Variant& sheet : worksheets_of(workbook)) {
         const std::u16string name = to_text(sheet.get(names::Name));
@@ -60,7 +60,7 @@ void keep_scroll_areas(const std::u16string& workbook) {
         gExcel.get(names::Workbooks, workbook)
             .get(names::CustomDocumentProperties)
             .call(names::Add, named(names::Name, name), named(names::LinkToContent, false),
-                  named(names::Type, text_property), named(names::Value, sheet.get(names::ScrollArea)),
+                  named(names::Type, number_of(PropertyKind::text)), named(names::Value, sheet.get(names::ScrollArea)),
                   named(names::LinkSource, false));
     }
 }
@@ -83,14 +83,14 @@ bool may_replace_backup() {
 
 void QAutoUpdateWindowPositions() {
     if (!boolean_option(u"chkT1AutoAdjWin", u"0")) return;
-    std::optional<std::int32_t> style;
+    std::optional<ArrangeStyle> style;
     for (const ArrangeOption& option : arrange_options) {
         if (boolean_option(option.name, u"0") && !style) style = option.style;
     }
     const bool active_workbook_only = boolean_option(u"chkT1AutoAdjWinWorkbookOnly", u"0");
     if (!style) return;
     const Variant& owner = active_workbook_only ? gExcel.get(names::ActiveWorkbook) : Variant(gExcel);
-    owner.get(names::Windows).call(names::Arrange, *style, active_workbook_only);
+    owner.get(names::Windows).call(names::Arrange, number_of(*style), active_workbook_only);
 }
 
 void QOptionDeleteEmptyWorksheets(const std::optional<std::u16string>& sWorkbookName) {
