@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "automation/host_numbers.hpp"
 #include "platform/text.hpp"
 #include "runtime/calendar.hpp"
 #include "screens/script/script_error.hpp"
@@ -18,8 +19,10 @@ struct ErrorText {
     const char* text;
 };
 constexpr std::array error_texts{
-    ErrorText{2000, "#NULL!"}, ErrorText{2007, "#DIV/0!"}, ErrorText{2015, "#VALUE!"}, ErrorText{2023, "#REF!"},
-    ErrorText{2029, "#NAME?"}, ErrorText{2036, "#NUM!"},   ErrorText{2042, "#N/A"},
+    ErrorText{numbers::cell_error::null, "#NULL!"},        ErrorText{numbers::cell_error::division_by_zero, "#DIV/0!"},
+    ErrorText{numbers::cell_error::value, "#VALUE!"},      ErrorText{numbers::cell_error::reference, "#REF!"},
+    ErrorText{numbers::cell_error::name, "#NAME?"},        ErrorText{numbers::cell_error::number, "#NUM!"},
+    ErrorText{numbers::cell_error::not_available, "#N/A"},
 };
 
 // Whole numbers are written without a decimal point, as a person does.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "core/bookmark_list.hpp"
 #include "core/menu_table.hpp"
@@ -15,10 +16,6 @@ namespace qor {
 namespace {
 
 using MacroExists = std::function<bool(std::u16string_view)>;
-
-constexpr std::int32_t button = 1;  // types of controls
-constexpr std::int32_t drop_down = 3;
-constexpr std::int32_t popup = 10;
 
 std::u16string bar_name(const MenuToolbar& toolbar) {
     return std::u16string(product::title).append(toolbar.suffix);
@@ -42,10 +39,11 @@ std::vector<Variant> command_bars() {
     return bars;
 }
 
-Object add_control(const Object& owner, std::int32_t type) {
+Object add_control(const Object& owner, ControlType type) {
     Object control;
     attempt([&] {
-        control = owner.get(names::Controls).call(names::Add, named(names::Type, type), named(names::Temporary, false));
+        control = owner.get(names::Controls)
+                      .call(names::Add, named(names::Type, number_of(type)), named(names::Temporary, false));
     });
     return control;
 }
@@ -61,7 +59,7 @@ void put_tag(const Object& control) {
 }
 
 Object add_popup(const Object& owner, std::u16string_view caption, bool begins_group) {
-    Object control = add_control(owner, popup);
+    Object control = add_control(owner, ControlType::popup);
     if (begins_group) put(control, names::BeginGroup, true);
     put(control, names::Caption, caption);
     put_tag(control);
@@ -78,7 +76,7 @@ struct ButtonLook {
 
 // The face is the one that was put on the clipboard last.
 void add_button(const Object& owner, const ButtonLook& look, std::u16string_view face_to_load = {}) {
-    const Object control = add_control(owner, button);
+    const Object control = add_control(owner, ControlType::button);
     if (look.begins_group) put(control, names::BeginGroup, true);
     put(control, names::Caption, look.caption);
     if (!face_to_load.empty()) attempt([&] { environment().faces.put(face_to_load); });
@@ -108,7 +106,7 @@ Object add_toolbar(const MenuToolbar& toolbar) {
 
 void add_bookmarks(const Object& bar, const MacroExists& exists) {
     if (exists(u"UTBoo")) {
-        const Object list = add_control(bar, drop_down);
+        const Object list = add_control(bar, ControlType::drop_down);
         put(list, names::BeginGroup, true);
         put(list, names::DropDownWidth, 150);
         put(list, names::OnAction, std::u16string_view(u"UTBoo"));
@@ -146,13 +144,16 @@ void add_closing_entries(const Object& top) {
 
 // Before the host's Help menu, or at the end where there is none.
 Object add_top_popup() {
-    constexpr std::int32_t help_menu = 30010;
+    constexpr std::int32_t popup = number_of(ControlType::popup);
     Object top;
     attempt([&] {
         const Object bar = gExcel.get(names::CommandBars, 1);
         const Object controls = bar.get(names::Controls);
         Object help;
-        attempt([&] { help = bar.call(names::FindControl, named(names::Type, popup), named(names::Id, help_menu)); });
+        attempt([&] {
+            help = bar.call(names::FindControl, named(names::Type, popup),
+                            named(names::Id, numbers::control_id::help_menu));
+        });
         top = help ? controls.call(names::Add, named(names::Type, popup), named(names::Before, help.get(names::Index)),
                                    named(names::Temporary, false))
                    : controls.call(names::Add, named(names::Type, popup), named(names::Temporary, false));

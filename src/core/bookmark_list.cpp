@@ -1,5 +1,6 @@
 #include "core/bookmark_list.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/message.hpp"
@@ -11,16 +12,14 @@
 namespace qor {
 namespace {
 
-constexpr std::int32_t drop_down = 3;
-
 template <class... Conditions>
 Object find_list(const Conditions&... conditions) {
     Object list;
     attempt([&] {
         for (const Variant& bar : gExcel.get(names::CommandBars).object().items()) {
             attempt([&] {
-                list = bar.call(names::FindControl, named(names::Type, drop_down), named(names::Tag, product::title),
-                                conditions...);
+                list = bar.call(names::FindControl, named(names::Type, number_of(ControlType::drop_down)),
+                                named(names::Tag, product::title), conditions...);
             });
             if (list) return;
         }

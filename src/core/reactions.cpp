@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/message.hpp"
@@ -18,13 +19,13 @@ namespace {
 
 struct ArrangeOption {
     const ButtonOption* button;
-    std::int32_t style;  // the host's number
+    ArrangeStyle style;
 };
 constexpr std::array arrange_options{
-    ArrangeOption{&option::rdoT1AutoAdjWin[0], 1},
-    ArrangeOption{&option::rdoT1AutoAdjWin[1], -4128},
-    ArrangeOption{&option::rdoT1AutoAdjWin[2], -4166},
-    ArrangeOption{&option::rdoT1AutoAdjWin[3], 7},
+    ArrangeOption{&option::rdoT1AutoAdjWin[0], ArrangeStyle::tiled},
+    ArrangeOption{&option::rdoT1AutoAdjWin[1], ArrangeStyle::horizontal},
+    ArrangeOption{&option::rdoT1AutoAdjWin[2], ArrangeStyle::vertical},
+    ArrangeOption{&option::rdoT1AutoAdjWin[3], ArrangeStyle::cascade},
 };
 
 std::vector<Variant> worksheets_of(const std::u16string& workbook) {
@@ -47,7 +48,6 @@ std::vector<Property> custom_properties_of(const std::u16string& workbook) {
 }
 
 void keep_scroll_areas(const std::u16string& workbook) {
-    constexpr std::int32_t text_property = 4;
     const std::vector<Property> properties = custom_properties_of(workbook);
     for (const Variant& sheet : worksheets_of(workbook)) {
         const std::u16string name = to_text(sheet.get(names::Name));
@@ -59,7 +59,7 @@ void keep_scroll_areas(const std::u16string& workbook) {
         gExcel.get(names::Workbooks, workbook)
             .get(names::CustomDocumentProperties)
             .call(names::Add, named(names::Name, name), named(names::LinkToContent, false),
-                  named(names::Type, text_property), named(names::Value, sheet.get(names::ScrollArea)),
+                  named(names::Type, number_of(PropertyKind::text)), named(names::Value, sheet.get(names::ScrollArea)),
                   named(names::LinkSource, false));
     }
 }
@@ -81,14 +81,14 @@ bool may_replace_backup() {
 
 void QAutoUpdateWindowPositions() {
     if (!is_on(option::chkT1AutoAdjWin)) return;
-    std::optional<std::int32_t> style;
+    std::optional<ArrangeStyle> style;
     for (const ArrangeOption& arranging : arrange_options) {
         if (is_on(*arranging.button) && !style) style = arranging.style;
     }
     const bool active_workbook_only = is_on(option::chkT1AutoAdjWinWorkbookOnly);
     if (!style) return;
     const Variant& owner = active_workbook_only ? gExcel.get(names::ActiveWorkbook) : Variant(gExcel);
-    owner.get(names::Windows).call(names::Arrange, *style, active_workbook_only);
+    owner.get(names::Windows).call(names::Arrange, number_of(*style), active_workbook_only);
 }
 
 void QOptionDeleteEmptyWorksheets(const std::optional<std::u16string>& sWorkbookName) {

@@ -1,5 +1,6 @@
 #include "core/toolbar_places.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/CReg.hpp"
 #include "ground/MMain.hpp"
@@ -8,10 +9,8 @@
 namespace qor {
 namespace {
 
-constexpr std::int32_t floating = 4;  // a position below it is docked
 constexpr std::int32_t default_left = 65;
 constexpr std::int32_t default_height = 49;
-constexpr std::int32_t any_row = -1;
 
 std::u16string kept(const MenuToolbar& toolbar, const MemberName& property, std::u16string_view standard) {
     return CReg(environment().settings).GetSetting(RootKey::current_user, toolbar.section, property.text(), standard);
@@ -38,8 +37,9 @@ void restore_place(const MenuToolbar& toolbar, const Object& bar) {
         });
         return value;
     };
+    constexpr std::int32_t floating = number_of(BarPosition::floating);  // a position below it is docked
     if (restore(names::Position, floating) < floating) {
-        restore(names::RowIndex, any_row);
+        restore(names::RowIndex, numbers::bar_row::any);
     } else {
         restore(names::Height, default_height);
         restore(names::Top, toolbar.top);

@@ -6,6 +6,7 @@
 #include <ranges>
 #include <vector>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/option_table.hpp"
@@ -19,13 +20,6 @@ namespace qor {
 namespace {
 
 constexpr std::int32_t heading_row = 5;
-
-// The host's constants.
-constexpr std::int32_t align_left = -4131;
-constexpr std::int32_t edge_bottom = 9;
-constexpr std::int32_t line_continuous = 1;
-constexpr std::int32_t weight_thin = 2;
-constexpr std::int32_t color_automatic = -4105;
 
 // Adds the workbook or the worksheet that takes the report; either becomes the active one.
 void make_destination() {
@@ -73,18 +67,19 @@ void ReportSheet::write_headings(std::span<const std::u16string> headings) {
     write_values(values);
     const auto set_border = [&](const MemberName& property, std::int32_t value) {
         for_row(headings.size(),
-                [&](const Object& range) { range.get(names::Borders, edge_bottom).put(property, value); });
+                [&](const Object& range) { range.get(names::Borders, numbers::border::bottom).put(property, value); });
     };
-    set_border(names::LineStyle, line_continuous);
-    set_border(names::Weight, weight_thin);
-    set_border(names::ColorIndex, color_automatic);
+    set_border(names::LineStyle, numbers::line_style::continuous);
+    set_border(names::Weight, numbers::line_weight::thin);
+    set_border(names::ColorIndex, numbers::colour_index::automatic);
     for_row(headings.size(), [](const Object& range) { range.get(names::Font).put(names::Bold, true); });
     for_row(headings.size(), [](const Object& range) { range.get(names::Font).put(names::Size, 10.0); });
 }
 
 void ReportSheet::add_record(std::span<const std::optional<Variant>> values) {
     ++row_;
-    for_row(values.size(), [](const Object& range) { range.put(names::HorizontalAlignment, align_left); });
+    for_row(values.size(),
+            [](const Object& range) { range.put(names::HorizontalAlignment, numbers::alignment::left); });
     write_values(values);
 }
 
@@ -92,8 +87,9 @@ void ReportSheet::add_records(std::span<RecordColumn> columns) {
     if (columns.empty() || columns.front().values.empty() || full()) return;
     const auto count = static_cast<std::int64_t>(columns.front().values.size());
     const auto rows = static_cast<std::int32_t>(std::min<std::int64_t>(count, last_row() - row_));
-    by_halves({row_ + 1, 1, rows, static_cast<std::int32_t>(columns.size())},
-              [&](const CellArea& part) { range_of(sheet(), part).put(names::HorizontalAlignment, align_left); });
+    by_halves({row_ + 1, 1, rows, static_cast<std::int32_t>(columns.size())}, [&](const CellArea& part) {
+        range_of(sheet(), part).put(names::HorizontalAlignment, numbers::alignment::left);
+    });
     const auto has_formats = [](const RecordColumn& column) { return !column.formats.empty(); };
     // What takes the formats of elsewhere is written by itself: there the host may have to read the values.
     for (auto begin = columns.begin(); begin != columns.end();) {

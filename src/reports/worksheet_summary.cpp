@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
@@ -10,8 +11,6 @@
 
 namespace qor {
 namespace {
-
-constexpr std::int32_t sheet_visible = -1;
 
 // A number or a truth value is a used cell, whatever it is. So is an error value: it can't be compared with a text,
 // but something stands there; and where no formula made it, somebody typed it in.
@@ -61,7 +60,9 @@ constexpr std::array<WorksheetSummaryColumn, 12> columns{{
     {u"ProtectedDrawingObjects", u"Protected Drawing Objects", sheet_property<names::ProtectDrawingObjects>},
     {u"ProtectedScenarios", u"Protected Scenarios", sheet_property<names::ProtectScenarios>},
     {u"Hidden", u"Hidden",
-     [](SummarizedSheet& sheet) -> Variant { return to_long(sheet.sheet().get(names::Visible)) != sheet_visible; }},
+     [](SummarizedSheet& sheet) -> Variant {
+         return to_long(sheet.sheet().get(names::Visible)) != numbers::visibility::visible;
+     }},
     {u"NumberofUsedCells", u"Number of Used Cells",
      [](SummarizedSheet& sheet) -> Variant { return sheet.used_cells(); }},
     {u"NumberofDataInputs", u"Number of Data Inputs",

@@ -1,5 +1,6 @@
 #include "services/ctlCellRef.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "runtime/conversion.hpp"
@@ -8,7 +9,6 @@
 namespace qor {
 namespace {
 
-constexpr std::int32_t range_reference = 8;  // InputBox's type
 constexpr std::int32_t whole_column_wanted = 1;
 constexpr std::int32_t whole_row_wanted = 2;
 
@@ -25,7 +25,7 @@ void ctlCellRef::pick() {
         // False, which is no object, when the user cancels.
         const Object range = gExcel
                                  .call(names::InputBox, named(names::Prompt, u"Please select range"),
-                                       named(names::Title, AppTitle), named(names::Type, range_reference))
+                                       named(names::Title, AppTitle), named(names::Type, numbers::input_type::range))
                                  .object();
         box.set_text(reduced(
             to_text(range.get(names::Address, named(names::RowAbsolute, false), named(names::ColumnAbsolute, false)))));

@@ -1,5 +1,6 @@
 #include "tree/ctlTree.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/option_table.hpp"
@@ -9,15 +10,9 @@ namespace qor {
 namespace {
 
 constexpr int ctrl_key = 2;  // alone
-constexpr std::int32_t sheet_visible = -1;
 constexpr std::int32_t yellow = 65535;
 constexpr std::int32_t red = 255;
 constexpr std::int32_t green = 65280;
-
-// The host's file formats of add-ins, which the tree never shows.
-bool is_add_in(std::int32_t file_format) {
-    return file_format == 18 || file_format == 26;
-}
 
 std::vector<Variant> items(const Object& owner, const MemberName& collection) {
     std::vector<Variant> found;
@@ -83,7 +78,7 @@ void ctlTree::LoadExcel() {
 void ctlTree::load_workbook(const Variant& workbook, TreeNode& root) {
     std::int32_t file_format = 0;
     attempt([&] { file_format = to_long(workbook.get(names::FileFormat)); });
-    if (is_add_in(file_format)) return;
+    if (numbers::file_format::is_add_in(file_format)) return;
     for (const Variant& window : items(workbook, names::Windows)) load_window(window, workbook, root);
 }
 
@@ -106,9 +101,9 @@ void ctlTree::load_window(const Variant& window, const Variant& workbook, TreeNo
 }
 
 void ctlTree::load_worksheet(const Variant& worksheet, TreeNode& window_node) {
-    std::int32_t visible = sheet_visible;
+    std::int32_t visible = numbers::visibility::visible;
     attempt([&] { visible = to_long(worksheet.get(names::Visible)); });
-    if (visible != sheet_visible && !ShowHiddenWorksheets) return;
+    if (visible != numbers::visibility::visible && !ShowHiddenWorksheets) return;
 
     TreeNode* node = nullptr;
     attempt([&] {
@@ -117,7 +112,7 @@ void ctlTree::load_worksheet(const Variant& worksheet, TreeNode& window_node) {
     });
     if (!node) return;
 
-    if (visible != sheet_visible) node->set_italic(true);
+    if (visible != numbers::visibility::visible) node->set_italic(true);
     if (is_true(worksheet, names::ProtectContents)) node->set_back_color(red);
     if (is_true(worksheet, names::ProtectDrawingObjects)) node->set_fore_color(green);
     if (is_true(worksheet, names::ProtectScenarios)) node->set_bold(true);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "runtime/conversion.hpp"
 #include "tree/ctlTree.hpp"
@@ -63,16 +64,14 @@ void ctlTree::open_worksheet() const {
         if (to_long(object.get(names::Visible)) != state) object.put(names::Visible, true);
     };
     attempt([&] {
-        constexpr std::int32_t visible_window = -1;  // True as a number
         const TreeNode& window_node = *HoverNode->parent();
         const Object window = workbook_of(window_node).get(names::Windows, window_node.text());
-        attempt([&] { show(window, visible_window); });
+        attempt([&] { show(window, to_long(true)); });
         window.call(names::Activate);
     });
     attempt([&] {
-        constexpr std::int32_t visible_sheet = -1;
         const Object worksheet = worksheet_of(*HoverNode);
-        attempt([&] { show(worksheet, visible_sheet); });
+        attempt([&] { show(worksheet, numbers::visibility::visible); });
         worksheet.call(names::Activate);
     });
     RequestClose(true);

@@ -1,5 +1,6 @@
 #include "workbooks/all_workbooks.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/option_table.hpp"
@@ -13,8 +14,7 @@ std::vector<Variant> workbooks() {
 }
 
 bool is_add_in(const Variant& workbook) {
-    const std::int32_t format = to_long(workbook.get(names::FileFormat));
-    return format == 18 || format == 26;
+    return numbers::file_format::is_add_in(to_long(workbook.get(names::FileFormat)));
 }
 
 bool has_file(const Variant& workbook) {
@@ -22,12 +22,12 @@ bool has_file(const Variant& workbook) {
 }
 
 void save_new(const Variant& workbook) {
-    constexpr std::int32_t normal_workbook = -4143;
     const Variant file = gExcel.call(names::GetSaveAsFilename, named(names::InitialFilename, workbook.get(names::Name)),
                                      named(names::FileFilter, u"Microsoft Excel Workbook (*.xls), *.xls"));
     const auto* answer = file.get_if<bool>();
     if (answer && !*answer) return;
-    workbook.call(names::SaveAs, named(names::Filename, file), named(names::FileFormat, normal_workbook));
+    workbook.call(names::SaveAs, named(names::Filename, file),
+                  named(names::FileFormat, numbers::file_format::normal_workbook));
 }
 
 }  // namespace

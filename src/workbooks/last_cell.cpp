@@ -1,5 +1,6 @@
 #include "workbooks/last_cell.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "ground/MMain.hpp"
 #include "ground/option_table.hpp"
@@ -8,23 +9,21 @@
 namespace qor {
 namespace {
 
-constexpr std::int32_t last_cell = 11;  // SpecialCells' type
-constexpr std::int32_t previous = 2;    // Find's direction
-
 struct Direction {
     const MemberName& place;
     const MemberName& whole;
     std::int32_t search_order;
 };
-const Direction by_rows{names::Row, names::EntireRow, 1};
-const Direction by_columns{names::Column, names::EntireColumn, 2};
+const Direction by_rows{names::Row, names::EntireRow, numbers::search_order::by_rows};
+const Direction by_columns{names::Column, names::EntireColumn, numbers::search_order::by_columns};
 
 // The row or the column of the last content, 0 where there is none.
 std::int32_t last_used(const Variant& sheet, const Direction& direction) {
     const Object found =
         sheet.get(names::Cells)
             .call(names::Find, named(names::What, u"*"), named(names::After, sheet.get(names::Range, u"A1")),
-                  named(names::SearchOrder, direction.search_order), named(names::SearchDirection, previous))
+                  named(names::SearchOrder, direction.search_order),
+                  named(names::SearchDirection, numbers::search_direction::previous))
             .object();
     return found ? to_long(found.get(direction.place)) : 0;
 }
@@ -45,7 +44,7 @@ void reset_last_cell(const Variant& sheet) {
     std::int32_t kept_row = 0;
     std::int32_t kept_column = 0;
     attempt([&] {
-        const Variant cell = sheet.get(names::Cells).call(names::SpecialCells, last_cell);
+        const Variant cell = sheet.get(names::Cells).call(names::SpecialCells, numbers::special_cells::last);
         kept_row = to_long(cell.get(names::Row));
         kept_column = to_long(cell.get(names::Column));
     });

@@ -6,10 +6,10 @@
 
 namespace {
 
+using qor::ReferenceKind;
+using qor::ReferenceStyle;
 using qor::calc::CellPlace;
 using qor::calc::ReferenceConversion;
-using qor::calc::ReferenceKind;
-using qor::calc::ReferenceStyle;
 
 std::string converted(std::u16string_view formula, const ReferenceConversion& conversion) {
     const auto result = qor::calc::convert_references(formula, conversion);

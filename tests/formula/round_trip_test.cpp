@@ -37,7 +37,7 @@ TEST_CASE("a formula comes back as it went") {
 }
 
 TEST_CASE("a formula comes back from the other style of references") {
-    using qor::calc::ReferenceStyle;
+    using qor::ReferenceStyle;
     CHECK(rc::check("by numbers and back", [] {
         static constexpr std::array<std::u16string_view, 2> places{u"Sheet2!", u"'my sheet'!"};
         const std::u16string formula =
@@ -75,9 +75,9 @@ TEST_CASE("any text goes through both ways") {
         REQUIRE(back.size() <= 12 * text.size() + 32);
         qor::calc::is_closed(text);
         const auto numbered = qor::calc::convert_references(
-            text, {.to = qor::calc::ReferenceStyle::row_column, .base = {.column = 5000, .row = 500000}});
+            text, {.to = qor::ReferenceStyle::row_column, .base = {.column = 5000, .row = 500000}});
         const auto lettered = qor::calc::convert_references(
-            text, {.from = qor::calc::ReferenceStyle::row_column, .base = {.column = 5000, .row = 500000}});
+            text, {.from = qor::ReferenceStyle::row_column, .base = {.column = 5000, .row = 500000}});
         REQUIRE((!numbered || numbered->size() <= 12 * text.size() + 32));
         REQUIRE((!lettered || lettered->size() <= 12 * text.size() + 32));
     }

@@ -20,9 +20,11 @@ namespace style = css::ui::ItemStyle;
 
 // The numbers that macro authors know the menus by. The office's other controls have none, which is 0.
 const std::map<std::u16string_view, std::int32_t> menu_ids{
-    {u".uno:PickList", 30002},   {u".uno:EditMenu", 30003},   {u".uno:ViewMenu", 30004},
-    {u".uno:InsertMenu", 30005}, {u".uno:FormatMenu", 30006}, {u".uno:ToolsMenu", 30007},
-    {u".uno:WindowList", 30009}, {u".uno:HelpMenu", 30010},   {u".uno:DataMenu", 30011},
+    {u".uno:PickList", numbers::control_id::file_menu},     {u".uno:EditMenu", numbers::control_id::edit_menu},
+    {u".uno:ViewMenu", numbers::control_id::view_menu},     {u".uno:InsertMenu", numbers::control_id::insert_menu},
+    {u".uno:FormatMenu", numbers::control_id::format_menu}, {u".uno:ToolsMenu", numbers::control_id::tools_menu},
+    {u".uno:WindowList", numbers::control_id::window_menu}, {u".uno:HelpMenu", numbers::control_id::help_menu},
+    {u".uno:DataMenu", numbers::control_id::data_menu},
 };
 
 struct Item {

@@ -65,7 +65,7 @@ BarPosition BarPlace::position() const {
 }
 
 std::int32_t BarPlace::row() const {
-    return certain(docked_sideways() ? dock_place_.X : dock_place_.Y, -1);
+    return certain(docked_sideways() ? dock_place_.X : dock_place_.Y, numbers::bar_row::any);
 }
 
 std::int32_t BarPlace::left() const {

@@ -5,13 +5,11 @@
 #include <com/sun/star/ui/DockingArea.hpp>
 #include <optional>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/bars/module_ui.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
-
-// The numbers are those of macro authors.
-enum class BarPosition : std::int32_t { left = 0, top = 1, right = 2, bottom = 3, floating = 4 };
 
 // The office fits a bar's size to its controls, and forgets where a docked bar floated. What was asked for is kept, and
 // holds until the user changes it.

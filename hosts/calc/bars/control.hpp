@@ -8,10 +8,9 @@
 #include <string>
 #include <vector>
 
-namespace qor::calc {
+#include "automation/host_numbers.hpp"
 
-// The numbers are those of macro authors.
-enum class ControlType : std::int32_t { button = 1, drop_down = 3, popup = 10 };
+namespace qor::calc {
 
 // One picture for menus and small toolbars, one for large toolbars and one for very large ones; all empty for no face.
 using ButtonFace = std::array<com::sun::star::uno::Reference<com::sun::star::graphic::XGraphic>, 3>;
@@ -28,7 +27,7 @@ struct Control {
     ControlType type = ControlType::button;
     std::u16string command;  // what the office knows it by
     bool built_in = false;   // the office's own
-    std::int32_t id = 1;     // 1 says that it is not the office's own
+    std::int32_t id = numbers::control_id::own;
     std::u16string caption;
     std::u16string tag;
     std::u16string action;  // the macro that a click runs

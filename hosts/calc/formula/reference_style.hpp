@@ -1,17 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/formula/row_column.hpp"
 
 namespace qor::calc {
-
-// The numbers are Excel's.
-enum class ReferenceStyle : std::int32_t { letters = 1, row_column = -4150 };
-enum class ReferenceKind : std::int32_t { absolute = 1, absolute_row = 2, absolute_column = 3, relative = 4 };
 
 struct ReferenceConversion {
     ReferenceStyle from = ReferenceStyle::letters;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/cells/blank_cells.hpp"
 #include "hosts/calc/adapter/cells/formats_before.hpp"
 #include "hosts/calc/adapter/cells/transition_entry.hpp"
@@ -13,7 +14,7 @@ namespace {
 
 // The value for a cell at this place of a range: a single row or column is repeated.
 const Variant& value_for(const Variant& value, std::size_t row, std::size_t column) {
-    static const Variant not_available = ErrorValue{2042};
+    static const Variant not_available = ErrorValue{numbers::cell_error::not_available};
     const Array* array = value.array();
     if (!array) return value;
     const std::size_t from_row = array->rows() == 1 ? 0 : row;

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "automation/host_numbers.hpp"
 #include "automation/member_names.hpp"
 #include "hosts/calc/adapter/ground/number_text.hpp"
 #include "hosts/calc/formula/notation.hpp"
@@ -53,9 +54,15 @@ struct ErrorText {
     std::int32_t code;
     std::u16string_view text;
 };
-constexpr std::array error_texts{ErrorText{2000, u"#NULL!"}, ErrorText{2007, u"#DIV/0!"}, ErrorText{2015, u"#VALUE!"},
-                                 ErrorText{2023, u"#REF!"},  ErrorText{2029, u"#NAME?"},  ErrorText{2036, u"#NUM!"},
-                                 ErrorText{2042, u"#N/A"}};
+constexpr std::array error_texts{
+    ErrorText{numbers::cell_error::null, u"#NULL!"},
+    ErrorText{numbers::cell_error::division_by_zero, u"#DIV/0!"},
+    ErrorText{numbers::cell_error::value, u"#VALUE!"},
+    ErrorText{numbers::cell_error::reference, u"#REF!"},
+    ErrorText{numbers::cell_error::name, u"#NAME?"},
+    ErrorText{numbers::cell_error::number, u"#NUM!"},
+    ErrorText{numbers::cell_error::not_available, u"#N/A"},
+};
 
 CellEntry number(double value, NumberKind kind = NumberKind::plain) {
     return {CellEntry::Way::data, value, kind};

@@ -7,27 +7,37 @@
 #include <com/sun/star/util/XSearchable.hpp>
 #include <set>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
 namespace {
+
+namespace cell_error = numbers::cell_error;
 
 struct Code {
     std::int32_t calc;
     std::int32_t excel;
 };
 // The office tells invalid arguments and a calculation that does not converge from a number that is too large.
-constexpr std::array codes{Code{521, 2000}, Code{532, 2007}, Code{519, 2015}, Code{524, 2023},  Code{525, 2029},
-                           Code{503, 2036}, Code{502, 2036}, Code{523, 2036}, Code{32767, 2042}};
+constexpr std::array codes{
+    Code{521, cell_error::null},
+    Code{532, cell_error::division_by_zero},
+    Code{519, cell_error::value},
+    Code{524, cell_error::reference},
+    Code{525, cell_error::name},
+    Code{503, cell_error::number},
+    Code{502, cell_error::number},
+    Code{523, cell_error::number},
+    Code{32767, cell_error::not_available},
+};
 
 std::int32_t code_of(const Ref<css::table::XCell>& cell) {
     const auto* row = std::ranges::find(codes, cell->getError(), &Code::calc);
     if (row != codes.end()) return row->excel;
     // A reference to a deleted sheet gives different errors.
-    constexpr std::int32_t reference_error = 2023;
-    constexpr std::int32_t value_error = 2015;
     const rtl::OUString formula = cell->getFormula();
-    return view_of(formula).find(u"#REF!") != std::u16string_view::npos ? reference_error : value_error;
+    return view_of(formula).find(u"#REF!") != std::u16string_view::npos ? cell_error::reference : cell_error::value;
 }
 
 using Position = std::pair<std::int32_t, std::int32_t>;

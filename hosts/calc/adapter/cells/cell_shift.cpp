@@ -7,6 +7,7 @@
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeMovement.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/undo_step.hpp"
 #include "hosts/calc/adapter/ground/write_guard.hpp"
 #include "hosts/calc/formula/notation.hpp"
@@ -21,8 +22,8 @@ struct Direction {
     std::int32_t excel;
     bool along_rows;  // the neighbours move sideways
 };
-constexpr std::array directions{Direction{shift::to_left, true}, Direction{shift::to_right, true},
-                                Direction{shift::up, false}, Direction{shift::down, false}};
+constexpr std::array directions{Direction{numbers::shift::to_left, true}, Direction{numbers::shift::to_right, true},
+                                Direction{numbers::shift::up, false}, Direction{numbers::shift::down, false}};
 
 bool is_whole_rows(const Rectangle& area) {
     return area.width() == column_limit;

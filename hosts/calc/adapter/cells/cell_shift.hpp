@@ -4,14 +4,6 @@
 
 namespace qor::calc {
 
-// Excel's numbers for where the neighbours go.
-namespace shift {
-inline constexpr std::int32_t to_left = -4159;
-inline constexpr std::int32_t up = -4162;
-inline constexpr std::int32_t to_right = -4161;
-inline constexpr std::int32_t down = -4121;
-}  // namespace shift
-
 // Inserts blank cells in the place of each area. Whole rows and columns make room of themselves; for other cells the
 // direction is the one asked for, else down, or to the right where an area is higher than it is wide. Raises 1004 where
 // a sheet's protection, an array formula, merged cells or the sheet's edge is in the way, and then changes no cell.

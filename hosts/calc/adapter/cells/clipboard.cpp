@@ -6,6 +6,7 @@
 #include <com/sun/star/datatransfer/clipboard/SystemClipboard.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/cells/cell_writer.hpp"
 #include "hosts/calc/adapter/ground/command.hpp"
 #include "hosts/calc/adapter/ground/selection.hpp"
@@ -24,9 +25,9 @@ struct Kind {
     const char* flags;    // of the office's command
     bool replaces_cells;  // what the cells held goes
 };
-constexpr std::array kinds{Kind{paste::all, "A", true}, Kind{paste::formulas, "SVDF", true},
-                           Kind{paste::values, "SVD", true}, Kind{paste::formats, "T", false},
-                           Kind{paste::comments, "N", false}};
+constexpr std::array kinds{Kind{numbers::paste::all, "A", true}, Kind{numbers::paste::formulas, "SVDF", true},
+                           Kind{numbers::paste::values, "SVD", true}, Kind{numbers::paste::formats, "T", false},
+                           Kind{numbers::paste::comments, "N", false}};
 
 Ref<css::datatransfer::clipboard::XClipboard> system_clipboard(const HostPointer& host) {
     return Ref<css::datatransfer::clipboard::XClipboard>(

@@ -6,15 +6,6 @@
 
 namespace qor::calc {
 
-// Excel's numbers for what is pasted.
-namespace paste {
-inline constexpr std::int32_t all = -4104;
-inline constexpr std::int32_t formulas = -4123;
-inline constexpr std::int32_t values = -4163;
-inline constexpr std::int32_t formats = -4122;
-inline constexpr std::int32_t comments = -4144;
-}  // namespace paste
-
 // How many rows and columns a copy of these areas has: areas in the same rows are put side by side, areas in the same
 // columns below each other. Raises 1004 for other ones.
 struct CopySize {

@@ -3,13 +3,11 @@
 #include <span>
 #include <string_view>
 
+#include "automation/host_numbers.hpp"
 #include "automation/variant.hpp"
 #include "hosts/calc/adapter/ground/book.hpp"
 
 namespace qor::calc {
-
-// Excel's numbers for the kinds of a property's value.
-enum class PropertyKind : std::int32_t { whole_number = 1, boolean = 2, date = 3, text = 4, number = 5 };
 
 // One of the properties that every document has in Excel.
 struct BuiltInProperty {

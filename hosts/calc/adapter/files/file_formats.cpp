@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "automation/host_numbers.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -19,34 +20,36 @@ constexpr const char* fixed_width = "FIX,34,76,1,,0,false,true,true";
 
 constexpr const char* text_filter = "Text - txt - csv (StarCalc)";
 
+namespace number = numbers::file_format;
+
 // Of the numbers for one kind of file the first is the one that a workbook answers.
 constexpr std::array formats{
-    FileFormat{u"xls", -4143, "MS Excel 97", ""},
-    FileFormat{u"xls", 56, "MS Excel 97", ""},
-    FileFormat{u"xls", 43, "MS Excel 97", ""},
-    FileFormat{u"xls", 39, "MS Excel 5.0/95", ""},
-    FileFormat{u"xls", 39, "MS Excel 95", ""},
-    FileFormat{u"xls", 33, "MS Excel 4.0", ""},
-    FileFormat{u"xlsx", 51, "Calc MS Excel 2007 XML", ""},
-    FileFormat{u"xlsx", 51, "Calc Office Open XML", ""},
-    FileFormat{u"xlsm", 52, "Calc MS Excel 2007 VBA XML", ""},
-    FileFormat{u"xlsb", 50, "Calc MS Excel 2007 Binary", ""},
-    FileFormat{u"xltx", 54, "Calc MS Excel 2007 XML Template", ""},
-    FileFormat{u"xlt", 17, "MS Excel 97 Vorlage/Template", ""},
-    FileFormat{u"ods", 60, "calc8", ""},
-    FileFormat{u"ots", 60, "calc8_template", ""},
-    FileFormat{u"csv", 6, text_filter, comma_separated},
-    FileFormat{u"csv", 62, text_filter, comma_separated_unicode},
-    FileFormat{u"txt", -4158, text_filter, tab_separated},
-    FileFormat{u"txt", 20, text_filter, tab_separated_windows},
-    FileFormat{u"prn", 36, text_filter, fixed_width},
-    FileFormat{u"slk", 2, "SYLK", "", true},
-    FileFormat{u"dif", 9, "DIF", "76", true},
-    FileFormat{u"dbf", 8, "dBase", "76"},
-    FileFormat{u"dbf", 7, "dBase", "76"},
-    FileFormat{u"dbf", 11, "dBase", "76"},
-    FileFormat{u"html", 44, "HTML (StarCalc)", ""},
-    FileFormat{u"wk1", 5, "Lotus", ""},
+    FileFormat{u"xls", number::normal_workbook, "MS Excel 97", ""},
+    FileFormat{u"xls", number::workbook_97, "MS Excel 97", ""},
+    FileFormat{u"xls", number::workbook_95_and_97, "MS Excel 97", ""},
+    FileFormat{u"xls", number::workbook_95, "MS Excel 5.0/95", ""},
+    FileFormat{u"xls", number::workbook_95, "MS Excel 95", ""},
+    FileFormat{u"xls", number::workbook_4, "MS Excel 4.0", ""},
+    FileFormat{u"xlsx", number::workbook, "Calc MS Excel 2007 XML", ""},
+    FileFormat{u"xlsx", number::workbook, "Calc Office Open XML", ""},
+    FileFormat{u"xlsm", number::workbook_with_macros, "Calc MS Excel 2007 VBA XML", ""},
+    FileFormat{u"xlsb", number::binary_workbook, "Calc MS Excel 2007 Binary", ""},
+    FileFormat{u"xltx", number::workbook_template, "Calc MS Excel 2007 XML Template", ""},
+    FileFormat{u"xlt", number::template_97, "MS Excel 97 Vorlage/Template", ""},
+    FileFormat{u"ods", number::open_document, "calc8", ""},
+    FileFormat{u"ots", number::open_document, "calc8_template", ""},
+    FileFormat{u"csv", number::comma_separated, text_filter, comma_separated},
+    FileFormat{u"csv", number::comma_separated_unicode, text_filter, comma_separated_unicode},
+    FileFormat{u"txt", number::text, text_filter, tab_separated},
+    FileFormat{u"txt", number::text_windows, text_filter, tab_separated_windows},
+    FileFormat{u"prn", number::text_printer, text_filter, fixed_width},
+    FileFormat{u"slk", number::symbolic_link, "SYLK", "", true},
+    FileFormat{u"dif", number::data_interchange, "DIF", "76", true},
+    FileFormat{u"dbf", number::dbase_3, "dBase", "76"},
+    FileFormat{u"dbf", number::dbase_2, "dBase", "76"},
+    FileFormat{u"dbf", number::dbase_4, "dBase", "76"},
+    FileFormat{u"html", number::web_page, "HTML (StarCalc)", ""},
+    FileFormat{u"wk1", number::lotus_1, "Lotus", ""},
 };
 
 template <class Fits>

@@ -5,6 +5,7 @@
 #include <com/sun/star/util/XModifiable.hpp>
 #include <filesystem>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/files/file_formats.hpp"
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/ground/interaction.hpp"
@@ -18,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int32_t format_of_new_books = 51;
+constexpr std::int32_t format_of_new_books = numbers::file_format::workbook;
 
 // The kind of file that the workbook was loaded from or last saved as; null when the office can read it and Excel has
 // no number for it.

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "automation/host_numbers.hpp"
+
 namespace qor::calc {
 
 // A place on the screen, in pixels.
@@ -14,9 +16,6 @@ struct WindowPlace {
     std::int32_t height = 0;
     bool operator==(const WindowPlace&) const = default;
 };
-
-// The numbers are Excel's.
-enum class ArrangeStyle : std::int32_t { tiled = 1, cascade = 7, horizontal = -4128, vertical = -4166 };
 
 // Places for so many windows in the area. The first one is for the active window: it stands at the left or the top,
 // and last and in front in a cascade. Raises 1004 for another style.

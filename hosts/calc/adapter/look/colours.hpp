@@ -4,9 +4,6 @@
 
 namespace qor::calc {
 
-inline constexpr std::int32_t automatic_colour_index = -4105;
-inline constexpr std::int32_t no_colour_index = -4142;
-
 // Excel has red in the lowest byte, the office has blue there.
 constexpr std::int32_t swap_red_and_blue(std::int32_t colour) {
     return ((colour & 0xFF) << 16) | (colour & 0xFF00) | ((colour >> 16) & 0xFF);

@@ -3,6 +3,7 @@
 #include <com/sun/star/sheet/XCalculatable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/files/recent_file_list.hpp"
 #include "hosts/calc/adapter/ground/configuration.hpp"
 #include "hosts/calc/adapter/ground/reference_style_setting.hpp"
@@ -90,8 +91,7 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
     // Places and help of the box come between the proposal and the type.
     Variant ask(const std::u16string& prompt, std::optional<std::u16string> title, const Variant& proposed,
                 const Variant&, const Variant&, const Variant&, const Variant&, std::optional<std::int32_t> type) {
-        constexpr std::int32_t text_type = 2;
-        return input_box(host_, prompt, title.value_or(u"Input"), proposed, type.value_or(text_type));
+        return input_box(host_, prompt, title.value_or(u"Input"), proposed, type.value_or(numbers::input_type::text));
     }
     void macro_options(const std::u16string& macro) { require_macro(*host_, macro); }
 
@@ -104,7 +104,7 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
     }
     Object this_workbook() { return make_companion_book(host_); }
 
-    std::int32_t style_of_references() { return static_cast<std::int32_t>(reference_style(*host_)); }
+    std::int32_t style_of_references() { return number_of(reference_style(*host_)); }
     void set_style_of_references(std::int32_t style) {
         const auto wanted = static_cast<ReferenceStyle>(style);
         const bool known = wanted == ReferenceStyle::letters || wanted == ReferenceStyle::row_column;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
 #include "platform/text.hpp"
@@ -65,8 +66,8 @@ Variant get_save_as_filename(Host& host, std::u16string_view initial, std::u16st
 
 Variant input_box(const HostPointer& host, const std::u16string& prompt, const std::u16string& title,
                   const Variant& proposed, std::int32_t type) {
-    constexpr std::int32_t range_type = 8;
-    if (type != range_type) throw Error(ErrorNumber::host_refused, {}, u"InputBox asks for a range only.");
+    if (type != numbers::input_type::range)
+        throw Error(ErrorNumber::host_refused, {}, u"InputBox asks for a range only.");
     RangeQuestion question{prompt, title, {}};
     if (proposed.is(Variant::Kind::object)) {
         question.proposed = to_text(proposed.get(names::Address));

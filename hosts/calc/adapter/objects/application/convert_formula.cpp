@@ -1,5 +1,6 @@
 #include "hosts/calc/adapter/objects/application/convert_formula.hpp"
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
 #include "hosts/calc/formula/reference_style.hpp"
 #include "runtime/conversion.hpp"
@@ -41,9 +42,8 @@ Variant convert_formula(const HostPointer& host, const std::u16string& formula, 
         const Object base = relative_to.is_missing() ? make_application(host).get(names::ActiveCell) : relative_to;
         conversion.base = place_of(base);
     }
-    constexpr std::int32_t value_error = 2015;
     const auto result = convert_references(formula, conversion);
-    return result ? Variant(*result) : Variant(ErrorValue{value_error});
+    return result ? Variant(*result) : Variant(ErrorValue{numbers::cell_error::value});
 }
 
 }  // namespace qor::calc

@@ -55,7 +55,7 @@ class DocumentPropertyObject final : public CalcObject<DocumentPropertyObject> {
 
     std::u16string name() { return built_in() ? std::u16string(built_in()->name) : own_name(); }
 
-    std::int32_t type() { return static_cast<std::int32_t>(built_in() ? built_in()->kind : kind_of(value())); }
+    std::int32_t type() { return number_of(built_in() ? built_in()->kind : kind_of(value())); }
     static PropertyKind kind_of(const Variant& value) {
         if (value.get_if<bool>()) return PropertyKind::boolean;
         if (value.get_if<Date>()) return PropertyKind::date;

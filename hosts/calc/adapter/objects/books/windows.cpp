@@ -74,7 +74,7 @@ class WindowsObject final : public CalcObject<WindowsObject> {
         });
         const Ref toolkit{css::awt::Toolkit::create(host_->context())};
         const css::awt::Rectangle screen = toolkit->getWorkArea();
-        const auto chosen = static_cast<ArrangeStyle>(style.value_or(static_cast<std::int32_t>(ArrangeStyle::tiled)));
+        const auto chosen = static_cast<ArrangeStyle>(style.value_or(number_of(ArrangeStyle::tiled)));
         const auto places = arranged(chosen, shown.size(), {screen.X, screen.Y, screen.Width, screen.Height});
         // From the back to the front, so that the active one ends up there.
         for (std::size_t i = shown.size(); i-- > 0;) put(shown[i], places[i]);

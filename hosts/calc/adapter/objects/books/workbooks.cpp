@@ -1,3 +1,4 @@
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/files/documents.hpp"
 #include "hosts/calc/adapter/objects/calc_object.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
@@ -30,9 +31,9 @@ class WorkbooksObject final : public CalcObject<WorkbooksObject> {
 
     // A number asks for a workbook with one sheet of that kind. There are worksheets only.
     Object add(const Variant& after) {
-        constexpr std::int32_t worksheet = -4167;
         if (after.get_if<std::u16string>()) return make_workbook(add_book_after(host_, to_text(after)));
-        if (!after.is_missing() && to_long(after) != worksheet) throw Error(ErrorNumber::host_refused);
+        const bool other_kind = !after.is_missing() && to_long(after) != numbers::sheet_type::worksheet;
+        if (other_kind) throw Error(ErrorNumber::host_refused);
         return make_workbook(add_book(host_));
     }
 

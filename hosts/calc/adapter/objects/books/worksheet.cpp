@@ -1,5 +1,6 @@
 #include <com/sun/star/util/XProtectable.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/cells/clipboard.hpp"
 #include "hosts/calc/adapter/ground/selection.hpp"
 #include "hosts/calc/adapter/ground/write_guard.hpp"
@@ -18,12 +19,9 @@
 namespace qor::calc {
 namespace {
 
-constexpr Rectangle whole_sheet{0, 0, column_limit - 1, row_limit - 1};
+namespace visibility = numbers::visibility;
 
-// How Excel counts a sheet's visibility.
-constexpr std::int32_t visible_sheet = -1;
-constexpr std::int32_t hidden_sheet = 0;
-constexpr std::int32_t very_hidden_sheet = 2;
+constexpr Rectangle whole_sheet{0, 0, column_limit - 1, row_limit - 1};
 
 class WorksheetObject final : public CalcObject<WorksheetObject> {
   public:
@@ -48,18 +46,18 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     std::int32_t index() { return sheet_.index() + 1; }
 
     std::int32_t visible() {
-        if (get_property<bool>(sheet_.sheet, "IsVisible")) return visible_sheet;
-        return sheet_marks(sheet_).very_hidden ? very_hidden_sheet : hidden_sheet;
+        if (get_property<bool>(sheet_.sheet, "IsVisible")) return visibility::visible;
+        return sheet_marks(sheet_).very_hidden ? visibility::very_hidden : visibility::hidden;
     }
     // True is -1 too; any other number that is not 0 or 2 shows the sheet.
     void set_visible(std::int32_t state) {
-        const bool shown = state != hidden_sheet && state != very_hidden_sheet;
+        const bool shown = state != visibility::hidden && state != visibility::very_hidden;
         before_structure_change(sheet_.book);
         set_property(sheet_.sheet, "IsVisible", shown);
         // The last visible sheet stays as it is without a word.
         if (get_property<bool>(sheet_.sheet, "IsVisible") != shown) throw Error(ErrorNumber::host_refused);
         SheetMarks marks = sheet_marks(sheet_);
-        marks.very_hidden = state == very_hidden_sheet;
+        marks.very_hidden = state == visibility::very_hidden;
         set_sheet_marks(sheet_, marks);
     }
 
@@ -120,9 +118,9 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     Object hyperlinks() { return make_hyperlinks(range_at(sheet_, whole_sheet)); }
 
     // Without a destination it goes where the selection is.
-    void paste(const Variant& destination) { paste_from_clipboard(place_to_paste(destination), qor::calc::paste::all); }
+    void paste(const Variant& destination) { paste_from_clipboard(place_to_paste(destination), numbers::paste::all); }
     void paste_special(std::optional<std::int32_t> what) {
-        paste_from_clipboard(place_to_paste(Missing{}), what.value_or(qor::calc::paste::all));
+        paste_from_clipboard(place_to_paste(Missing{}), what.value_or(numbers::paste::all));
     }
     RangeAreas place_to_paste(const Variant& destination) {
         if (!destination.is_missing()) return areas_of(destination);

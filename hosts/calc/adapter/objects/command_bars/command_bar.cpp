@@ -1,3 +1,4 @@
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/objects/calc_object.hpp"
 #include "hosts/calc/adapter/objects/command_bars/command_bar_objects.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
@@ -5,8 +6,6 @@
 
 namespace qor::calc {
 namespace {
-
-enum class BarType : std::int32_t { toolbar = 0, menu_bar = 1 };
 
 class CommandBarObject final : public CalcObject<CommandBarObject> {
   public:
@@ -42,7 +41,7 @@ class CommandBarObject final : public CalcObject<CommandBarObject> {
     }
 
     std::u16string name() { return bar().name; }
-    std::int32_t type() { return static_cast<std::int32_t>(is_menu_bar() ? BarType::menu_bar : BarType::toolbar); }
+    std::int32_t type() { return number_of(is_menu_bar() ? BarType::menu_bar : BarType::toolbar); }
     bool built_in() { return bar().built_in; }
     std::int32_t index() {
         require(*bar_);
@@ -50,9 +49,9 @@ class CommandBarObject final : public CalcObject<CommandBarObject> {
         return static_cast<std::int32_t>(std::ranges::find(all, bar_) - all.begin()) + 1;
     }
 
-    std::int32_t position() { return read_place<&BarPlace::position>(static_cast<std::int32_t>(BarPosition::top)); }
+    std::int32_t position() { return read_place<&BarPlace::position>(number_of(BarPosition::top)); }
     void set_position(std::int32_t position) {
-        if (position < 0 || position > static_cast<std::int32_t>(BarPosition::floating)) {
+        if (position < 0 || position > number_of(BarPosition::floating)) {
             throw Error(ErrorNumber::host_refused, {}, u"CommandBar.Position: toolbars are docked or float.");
         }
         write_place<&BarPlace::set_position>(u"Position", static_cast<BarPosition>(position));

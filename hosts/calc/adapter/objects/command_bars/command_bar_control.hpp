@@ -98,7 +98,7 @@ class CommandBarControl : public CalcObject<Self> {
         return control().tool_tip.empty() ? plain_caption(control().caption) : control().tool_tip;
     }
     void set_tool_tip(const std::u16string& text) { set(u"TooltipText", &Control::tool_tip, text); }
-    std::int32_t type() { return static_cast<std::int32_t>(control().type); }
+    std::int32_t type() { return number_of(control().type); }
     bool visible() { return control().visible; }
     void set_visible(bool visible) { set(u"Visible", &Control::visible, visible); }
     std::int32_t width() { return control().width; }

@@ -44,7 +44,7 @@ class CommandBarControlsObject final : public CalcObject<CommandBarControlsObjec
 
     static ControlType type_of(std::int32_t number) {
         for (const ControlType type : {ControlType::button, ControlType::drop_down, ControlType::popup}) {
-            if (static_cast<std::int32_t>(type) == number) return type;
+            if (number_of(type) == number) return type;
         }
         throw Error(ErrorNumber::host_refused, {},
                     u"CommandBarControls.Add: only buttons, drop-down lists and popups can be added.");
@@ -54,8 +54,8 @@ class CommandBarControlsObject final : public CalcObject<CommandBarControlsObjec
                const std::optional<std::u16string>& parameter, std::optional<std::int32_t> before,
                std::optional<bool>) {
         Controls& among = place_.controls();
-        const ControlType kind = type_of(type.value_or(static_cast<std::int32_t>(ControlType::button)));
-        if (id.value_or(1) != 1) {
+        const ControlType kind = type_of(type.value_or(number_of(ControlType::button)));
+        if (id.value_or(numbers::control_id::own) != numbers::control_id::own) {
             throw Error(ErrorNumber::host_refused, {},
                         u"CommandBarControls.Add: a control of the office is not copied.");
         }
@@ -93,9 +93,8 @@ const MemberTable<CommandBarControlsObject>& CommandBarControlsObject::members()
 }
 
 bool matches(const Control& control, const ControlSearch& search) {
-    return (!search.type || static_cast<std::int32_t>(control.type) == *search.type) &&
-           (!search.id || control.id == *search.id) && (!search.tag || control.tag == *search.tag) &&
-           (!search.visible || control.visible == *search.visible);
+    return (!search.type || number_of(control.type) == *search.type) && (!search.id || control.id == *search.id) &&
+           (!search.tag || control.tag == *search.tag) && (!search.visible || control.visible == *search.visible);
 }
 
 // The office's own controls have no tags: what was never read need not be read to look for one.

@@ -48,7 +48,7 @@ class CommandBarsObject final : public CalcObject<CommandBarsObject> {
 
     Object add(const std::optional<std::u16string>& name, std::optional<std::int32_t> position,
                std::optional<bool> menu_bar, std::optional<bool>) {
-        constexpr auto last_position = static_cast<std::int32_t>(BarPosition::floating);
+        constexpr std::int32_t last_position = number_of(BarPosition::floating);
         const auto asked = position.value_or(last_position);
         if (name && (name->empty() || named(*name))) throw Error(ErrorNumber::invalid_call);
         if (menu_bar.value_or(false) || asked < 0 || asked > last_position) {

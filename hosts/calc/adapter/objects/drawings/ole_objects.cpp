@@ -1,3 +1,4 @@
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/objects/calc_object.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
@@ -6,9 +7,6 @@
 
 namespace qor::calc {
 namespace {
-
-constexpr std::int32_t linked = 0;
-constexpr std::int32_t embedded = 1;
 
 class OleObject final : public CalcObject<OleObject> {
   public:
@@ -38,7 +36,7 @@ class OleObject final : public CalcObject<OleObject> {
 
     std::u16string name() { return object_.name(); }
     void set_name(const std::u16string& name) { object_.set_name(name); }
-    std::int32_t type() { return link().isEmpty() ? embedded : linked; }
+    std::int32_t type() { return link().isEmpty() ? numbers::ole_type::embedded : numbers::ole_type::linked; }
     std::u16string source_name() {
         const rtl::OUString address = link();
         if (address.isEmpty()) throw Error(ErrorNumber::host_refused);

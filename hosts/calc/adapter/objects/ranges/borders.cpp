@@ -4,6 +4,7 @@
 #include <com/sun/star/table/TableBorder2.hpp>
 #include <cstdlib>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/range_address.hpp"
 #include "hosts/calc/adapter/look/attributes.hpp"
 #include "hosts/calc/adapter/look/colours.hpp"
@@ -23,37 +24,43 @@ struct Side {
     sal_Bool TableBorder2::*valid;
     const char* attribute = nullptr;  // of the cells, for the lines across them
 };
+namespace border = numbers::border;
 constexpr std::array sides{
-    Side{7, &TableBorder2::LeftLine, &TableBorder2::IsLeftLineValid},
-    Side{8, &TableBorder2::TopLine, &TableBorder2::IsTopLineValid},
-    Side{9, &TableBorder2::BottomLine, &TableBorder2::IsBottomLineValid},
-    Side{10, &TableBorder2::RightLine, &TableBorder2::IsRightLineValid},
-    Side{11, &TableBorder2::VerticalLine, &TableBorder2::IsVerticalLineValid},
-    Side{12, &TableBorder2::HorizontalLine, &TableBorder2::IsHorizontalLineValid},
-    Side{5, nullptr, nullptr, "DiagonalTLBR2"},
-    Side{6, nullptr, nullptr, "DiagonalBLTR2"},
+    Side{border::left, &TableBorder2::LeftLine, &TableBorder2::IsLeftLineValid},
+    Side{border::top, &TableBorder2::TopLine, &TableBorder2::IsTopLineValid},
+    Side{border::bottom, &TableBorder2::BottomLine, &TableBorder2::IsBottomLineValid},
+    Side{border::right, &TableBorder2::RightLine, &TableBorder2::IsRightLineValid},
+    Side{border::inside_vertical, &TableBorder2::VerticalLine, &TableBorder2::IsVerticalLineValid},
+    Side{border::inside_horizontal, &TableBorder2::HorizontalLine, &TableBorder2::IsHorizontalLineValid},
+    Side{border::diagonal_down, nullptr, nullptr, "DiagonalTLBR2"},
+    Side{border::diagonal_up, nullptr, nullptr, "DiagonalBLTR2"},
 };
-
-constexpr std::int32_t continuous = 1;
-constexpr std::int32_t no_line = -4142;
 
 struct Style {
     std::int32_t excel;
     std::int16_t calc;
 };
-namespace line_style = css::table::BorderLineStyle;
+namespace line_style = numbers::line_style;
+namespace office_style = css::table::BorderLineStyle;
 constexpr std::array styles{
-    Style{continuous, line_style::SOLID}, Style{-4115, line_style::DASHED},      Style{-4118, line_style::DOTTED},
-    Style{-4119, line_style::DOUBLE},     Style{-4119, line_style::DOUBLE_THIN}, Style{4, line_style::DASH_DOT},
-    Style{5, line_style::DASH_DOT_DOT},   Style{-4115, line_style::FINE_DASHED},
+    Style{line_style::continuous, office_style::SOLID},
+    Style{line_style::dashed, office_style::DASHED},
+    Style{line_style::dotted, office_style::DOTTED},
+    Style{line_style::doubled, office_style::DOUBLE},
+    Style{line_style::doubled, office_style::DOUBLE_THIN},
+    Style{line_style::dash_dot, office_style::DASH_DOT},
+    Style{line_style::dash_dot_dot, office_style::DASH_DOT_DOT},
+    Style{line_style::dashed, office_style::FINE_DASHED},
 };
 
+namespace line_weight = numbers::line_weight;
 struct Weight {
     std::int32_t excel;
     std::uint32_t width;  // in hundredths of a millimetre
 };
-constexpr std::array weights{Weight{1, 2}, Weight{2, 26}, Weight{-4138, 62}, Weight{4, 88}};
 constexpr std::uint32_t thin_width = 26;
+constexpr std::array weights{Weight{line_weight::hairline, 2}, Weight{line_weight::thin, thin_width},
+                             Weight{line_weight::medium, 62}, Weight{line_weight::thick, 88}};
 
 bool is_drawn(const BorderLine2& line) {
     return line.LineWidth > 0 || line.OuterLineWidth > 0;
@@ -127,16 +134,16 @@ class BorderObject final : public CalcObject<BorderObject> {
 
     Variant line_style() {
         return ask([](const BorderLine2& line) {
-            if (!is_drawn(line)) return no_line;
+            if (!is_drawn(line)) return line_style::none;
             const auto* row = std::ranges::find(styles, line.LineStyle, &Style::calc);
-            return row == styles.end() ? continuous : row->excel;
+            return row == styles.end() ? line_style::continuous : row->excel;
         });
     }
     void set_line_style(std::int32_t style) {
         const auto* row = std::ranges::find(styles, style, &Style::excel);
-        if (style != no_line && row == styles.end()) throw Error(ErrorNumber::host_refused);
+        if (style != line_style::none && row == styles.end()) throw Error(ErrorNumber::host_refused);
         change([&](BorderLine2& line) {
-            if (style == no_line) {
+            if (style == line_style::none) {
                 line = BorderLine2();
                 return;
             }
@@ -145,9 +152,8 @@ class BorderObject final : public CalcObject<BorderObject> {
         });
     }
     Variant weight() {
-        constexpr std::int32_t thin = 2;
         return ask([](const BorderLine2& line) {
-            if (!is_drawn(line)) return thin;
+            if (!is_drawn(line)) return line_weight::thin;
             const auto away = [&](const Weight& weight) {
                 return std::abs(static_cast<std::int32_t>(weight.width) - static_cast<std::int32_t>(width_of(line)));
             };
@@ -158,7 +164,7 @@ class BorderObject final : public CalcObject<BorderObject> {
         const auto* row = std::ranges::find(weights, weight, &Weight::excel);
         if (row == weights.end()) throw Error(ErrorNumber::host_refused);
         change([&](BorderLine2& line) {
-            if (!is_drawn(line)) line.LineStyle = line_style::SOLID;
+            if (!is_drawn(line)) line.LineStyle = office_style::SOLID;
             set_width(line, row->width);
         });
     }
@@ -171,12 +177,12 @@ class BorderObject final : public CalcObject<BorderObject> {
     // The office keeps no automatic colour: black stands for it.
     Variant color_index() {
         return ask([](const BorderLine2& line) {
-            if (!is_drawn(line)) return no_colour_index;
-            return line.Color == 0 ? automatic_colour_index : palette_index(line.Color);
+            if (!is_drawn(line)) return numbers::colour_index::none;
+            return line.Color == 0 ? numbers::colour_index::automatic : palette_index(line.Color);
         });
     }
     void set_color_index(std::int32_t index) {
-        const std::int32_t colour = index == automatic_colour_index ? 0 : palette_colour(index);
+        const std::int32_t colour = index == numbers::colour_index::automatic ? 0 : palette_colour(index);
         change([&](BorderLine2& line) { paint(line, colour); });
     }
     static void paint(BorderLine2& line, std::int32_t colour) {

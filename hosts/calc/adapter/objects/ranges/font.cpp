@@ -3,6 +3,7 @@
 #include <com/sun/star/awt/FontWeight.hpp>
 #include <functional>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/range_address.hpp"
 #include "hosts/calc/adapter/look/attributes.hpp"
 #include "hosts/calc/adapter/look/colours.hpp"
@@ -13,10 +14,6 @@ namespace qor::calc {
 namespace {
 
 constexpr sal_Int32 no_colour = -1;  // of a font: automatic, which is black; of a cell: none
-
-constexpr std::int32_t single_underline = 2;
-constexpr std::int32_t double_underline = -4119;
-constexpr std::int32_t no_underline = -4142;
 
 class FontObject final : public CalcObject<FontObject> {
   public:
@@ -45,14 +42,14 @@ class FontObject final : public CalcObject<FontObject> {
     }
     Variant underline() {
         return answer(shared_attribute<sal_Int16>(areas_, "CharUnderline"), [](sal_Int16 line) {
-            if (line == css::awt::FontUnderline::NONE) return no_underline;
-            return line == css::awt::FontUnderline::DOUBLE ? double_underline : single_underline;
+            if (line == css::awt::FontUnderline::NONE) return numbers::underline::none;
+            return line == css::awt::FontUnderline::DOUBLE ? numbers::underline::doubled : numbers::underline::single;
         });
     }
     void set_underline(std::int32_t line) {
-        const sal_Int16 kind = line == no_underline       ? css::awt::FontUnderline::NONE
-                               : line == double_underline ? css::awt::FontUnderline::DOUBLE
-                                                          : css::awt::FontUnderline::SINGLE;
+        const sal_Int16 kind = line == numbers::underline::none      ? css::awt::FontUnderline::NONE
+                               : line == numbers::underline::doubled ? css::awt::FontUnderline::DOUBLE
+                                                                     : css::awt::FontUnderline::SINGLE;
         set_attribute(areas_, "CharUnderline", kind);
     }
     Variant size() {
@@ -69,11 +66,12 @@ class FontObject final : public CalcObject<FontObject> {
     void set_color(std::int32_t color) { set_attribute(areas_, "CharColor", swap_red_and_blue(color)); }
     Variant color_index() {
         return answer(shared_attribute<sal_Int32>(areas_, "CharColor"), [](sal_Int32 colour) {
-            return colour == no_colour ? automatic_colour_index : palette_index(colour);
+            return colour == no_colour ? numbers::colour_index::automatic : palette_index(colour);
         });
     }
     void set_color_index(std::int32_t index) {
-        set_attribute(areas_, "CharColor", index == automatic_colour_index ? no_colour : palette_colour(index));
+        set_attribute(areas_, "CharColor",
+                      index == numbers::colour_index::automatic ? no_colour : palette_colour(index));
     }
     Object parent() { return make_range(areas_); }
 
@@ -114,11 +112,12 @@ class InteriorObject final : public CalcObject<InteriorObject> {
     }
     void set_color(std::int32_t color) { set_attribute(areas_, "CellBackColor", swap_red_and_blue(color)); }
     Variant color_index() {
-        return answer(shared_attribute<sal_Int32>(areas_, "CellBackColor"),
-                      [](sal_Int32 colour) { return colour == no_colour ? no_colour_index : palette_index(colour); });
+        return answer(shared_attribute<sal_Int32>(areas_, "CellBackColor"), [](sal_Int32 colour) {
+            return colour == no_colour ? numbers::colour_index::none : palette_index(colour);
+        });
     }
     void set_color_index(std::int32_t index) {
-        const bool none = index == no_colour_index || index == automatic_colour_index;
+        const bool none = index == numbers::colour_index::none || index == numbers::colour_index::automatic;
         set_attribute(areas_, "CellBackColor", none ? no_colour : palette_colour(index));
     }
     Object parent() { return make_range(areas_); }

@@ -11,6 +11,7 @@
 #include <com/sun/star/sheet/XFormulaParser.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/objects/calc_object.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
 #include "hosts/calc/uno/property.hpp"
@@ -23,8 +24,8 @@ namespace entry_type = css::sheet::ConditionEntryType;
 namespace calc_operator = css::sheet::ConditionFormatOperator;
 using Entry = Ref<css::sheet::XConditionEntry>;
 
-constexpr std::int32_t cell_value = 1;  // the only type that has an operator
-constexpr std::int32_t expression = 2;
+namespace condition = numbers::condition_type;
+namespace comparison = numbers::comparison;
 
 struct Kind {
     std::int32_t calc;
@@ -32,37 +33,36 @@ struct Kind {
     std::int32_t excel = 0;  // the operator, for a cell's value
 };
 constexpr std::array conditions{
-    Kind{calc_operator::BETWEEN, cell_value, 1},
-    Kind{calc_operator::NOT_BETWEEN, cell_value, 2},
-    Kind{calc_operator::EQUAL, cell_value, 3},
-    Kind{calc_operator::NOT_EQUAL, cell_value, 4},
-    Kind{calc_operator::GREATER, cell_value, 5},
-    Kind{calc_operator::LESS, cell_value, 6},
-    Kind{calc_operator::GREATER_EQUAL, cell_value, 7},
-    Kind{calc_operator::LESS_EQUAL, cell_value, 8},
-    Kind{calc_operator::EXPRESSION, expression},
-    Kind{calc_operator::DUPLICATE, 8},
-    Kind{calc_operator::UNIQUE, 8},
-    Kind{calc_operator::TOP_N_ELEMENTS, 5},
-    Kind{calc_operator::BOTTOM_N_ELEMENTS, 5},
-    Kind{calc_operator::TOP_N_PERCENT, 5},
-    Kind{calc_operator::BOTTOM_N_PERCENT, 5},
-    Kind{calc_operator::ABOVE_AVERAGE, 12},
-    Kind{calc_operator::BELOW_AVERAGE, 12},
-    Kind{calc_operator::ABOVE_EQUAL_AVERAGE, 12},
-    Kind{calc_operator::BELOW_EQUAL_AVERAGE, 12},
-    Kind{calc_operator::ERROR, 16},
-    Kind{calc_operator::NO_ERROR, 17},
-    Kind{calc_operator::BEGINS_WITH, 9},
-    Kind{calc_operator::ENDS_WITH, 9},
-    Kind{calc_operator::CONTAINS, 9},
-    Kind{calc_operator::NOT_CONTAINS, 9},
+    Kind{calc_operator::BETWEEN, condition::cell_value, comparison::between},
+    Kind{calc_operator::NOT_BETWEEN, condition::cell_value, comparison::not_between},
+    Kind{calc_operator::EQUAL, condition::cell_value, comparison::equal},
+    Kind{calc_operator::NOT_EQUAL, condition::cell_value, comparison::not_equal},
+    Kind{calc_operator::GREATER, condition::cell_value, comparison::greater},
+    Kind{calc_operator::LESS, condition::cell_value, comparison::less},
+    Kind{calc_operator::GREATER_EQUAL, condition::cell_value, comparison::greater_equal},
+    Kind{calc_operator::LESS_EQUAL, condition::cell_value, comparison::less_equal},
+    Kind{calc_operator::EXPRESSION, condition::expression},
+    Kind{calc_operator::DUPLICATE, condition::unique},
+    Kind{calc_operator::UNIQUE, condition::unique},
+    Kind{calc_operator::TOP_N_ELEMENTS, condition::top},
+    Kind{calc_operator::BOTTOM_N_ELEMENTS, condition::top},
+    Kind{calc_operator::TOP_N_PERCENT, condition::top},
+    Kind{calc_operator::BOTTOM_N_PERCENT, condition::top},
+    Kind{calc_operator::ABOVE_AVERAGE, condition::average},
+    Kind{calc_operator::BELOW_AVERAGE, condition::average},
+    Kind{calc_operator::ABOVE_EQUAL_AVERAGE, condition::average},
+    Kind{calc_operator::BELOW_EQUAL_AVERAGE, condition::average},
+    Kind{calc_operator::ERROR, condition::error},
+    Kind{calc_operator::NO_ERROR, condition::no_error},
+    Kind{calc_operator::BEGINS_WITH, condition::text},
+    Kind{calc_operator::ENDS_WITH, condition::text},
+    Kind{calc_operator::CONTAINS, condition::text},
+    Kind{calc_operator::NOT_CONTAINS, condition::text},
 };
 // Conditions that are no comparison.
-constexpr std::array pictures{Kind{entry_type::COLORSCALE, 3}, Kind{entry_type::DATABAR, 4},
-                              Kind{entry_type::ICONSET, 6}, Kind{entry_type::DATE, 11}};
-
-constexpr std::int32_t last_with_two_formulas = 2;  // between and not between
+constexpr std::array pictures{
+    Kind{entry_type::COLORSCALE, condition::colour_scale}, Kind{entry_type::DATABAR, condition::data_bar},
+    Kind{entry_type::ICONSET, condition::icon_set}, Kind{entry_type::DATE, condition::period}};
 
 // A condition for the cell, and where its formulas are written for.
 struct Condition {
@@ -143,16 +143,16 @@ class FormatCondition final : public CalcObject<FormatCondition> {
     std::int32_t type() { return kind_of(condition_.entry).type; }
     std::int32_t comparison() {
         const Kind kind = kind_of(condition_.entry);
-        if (kind.type != cell_value) throw Error(ErrorNumber::host_refused);
+        if (kind.type != condition::cell_value) throw Error(ErrorNumber::host_refused);
         return kind.excel;
     }
     std::u16string first_formula() {
         const std::int32_t kind = type();
-        if (kind != cell_value && kind != expression) throw Error(ErrorNumber::host_refused);
+        if (kind != condition::cell_value && kind != condition::expression) throw Error(ErrorNumber::host_refused);
         return formula("Formula1");
     }
     std::u16string second_formula() {
-        if (comparison() > last_with_two_formulas) throw Error(ErrorNumber::host_refused);
+        if (comparison() > comparison::not_between) throw Error(ErrorNumber::host_refused);
         return formula("Formula2");
     }
     // A constant comes with the equals sign, too.

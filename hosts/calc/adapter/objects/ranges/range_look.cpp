@@ -10,6 +10,7 @@
 #include <com/sun/star/util/XMergeable.hpp>
 #include <functional>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/look/attributes.hpp"
 #include "hosts/calc/adapter/look/digit_width.hpp"
 #include "hosts/calc/adapter/look/kept_row_heights.hpp"
@@ -30,10 +31,13 @@ struct Alignment {
 };
 // Of several numbers for one justification the first one is answered.
 constexpr std::array alignments{
-    Alignment{1, css::table::CellHoriJustify_STANDARD},   Alignment{-4131, css::table::CellHoriJustify_LEFT},
-    Alignment{-4108, css::table::CellHoriJustify_CENTER}, Alignment{-4152, css::table::CellHoriJustify_RIGHT},
-    Alignment{-4130, css::table::CellHoriJustify_BLOCK},  Alignment{5, css::table::CellHoriJustify_REPEAT},
-    Alignment{7, css::table::CellHoriJustify_CENTER},
+    Alignment{numbers::alignment::general, css::table::CellHoriJustify_STANDARD},
+    Alignment{numbers::alignment::left, css::table::CellHoriJustify_LEFT},
+    Alignment{numbers::alignment::centre, css::table::CellHoriJustify_CENTER},
+    Alignment{numbers::alignment::right, css::table::CellHoriJustify_RIGHT},
+    Alignment{numbers::alignment::justify, css::table::CellHoriJustify_BLOCK},
+    Alignment{numbers::alignment::fill, css::table::CellHoriJustify_REPEAT},
+    Alignment{numbers::alignment::centre_across_selection, css::table::CellHoriJustify_CENTER},
 };
 
 constexpr double points_per_inch = 72;

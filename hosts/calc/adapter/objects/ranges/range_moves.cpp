@@ -1,3 +1,4 @@
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/cells/cell_copy.hpp"
 #include "hosts/calc/adapter/cells/cell_shift.hpp"
 #include "hosts/calc/adapter/cells/clipboard.hpp"
@@ -22,7 +23,7 @@ void RangeObject::copy(const Variant& destination) {
 }
 
 void RangeObject::paste_special(std::optional<std::int32_t> what) {
-    paste_from_clipboard(areas_, what.value_or(paste::all));
+    paste_from_clipboard(areas_, what.value_or(numbers::paste::all));
 }
 
 }  // namespace qor::calc

@@ -1,3 +1,4 @@
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/range_address.hpp"
 #include "hosts/calc/adapter/objects/ranges/range_object.hpp"
 #include "hosts/calc/formula/notation.hpp"
@@ -49,13 +50,12 @@ const RangeAreas& areas_of(const Variant& value) {
 std::u16string RangeObject::address(std::optional<bool> row_fixed, std::optional<bool> column_fixed,
                                     std::optional<std::int32_t> style, std::optional<bool> external,
                                     const Variant& relative_to) {
-    constexpr std::int32_t a1_style = 1;
-    constexpr std::int32_t r1c1_style = -4150;
-    const std::int32_t asked = style.value_or(a1_style);
-    if (asked != a1_style && asked != r1c1_style) throw Error(ErrorNumber::host_refused);
+    const auto asked = static_cast<ReferenceStyle>(style.value_or(number_of(ReferenceStyle::letters)));
+    const bool known = asked == ReferenceStyle::letters || asked == ReferenceStyle::row_column;
+    if (!known) throw Error(ErrorNumber::host_refused);
     return address_of(areas_, {.row_fixed = row_fixed.value_or(true),
                                .column_fixed = column_fixed.value_or(true),
-                               .r1c1 = asked == r1c1_style,
+                               .r1c1 = asked == ReferenceStyle::row_column,
                                .external = external.value_or(false),
                                .base = relative_to.is_missing() ? Rectangle{} : areas_of(relative_to).rectangle()});
 }

@@ -4,6 +4,7 @@
 #include <com/sun/star/sheet/FormulaResult.hpp>
 #include <com/sun/star/util/XSearchable.hpp>
 
+#include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/cell_query.hpp"
 #include "hosts/calc/adapter/objects/ranges/range_object.hpp"
 #include "hosts/calc/adapter/sheets/used_area.hpp"
@@ -12,32 +13,19 @@
 namespace qor::calc {
 namespace {
 
-// Excel's numbers for kinds of cells.
-constexpr std::int32_t last_cell = 11;
-constexpr std::int32_t cells_with_comments = -4144;
-constexpr std::int32_t cells_with_constants = 2;
-constexpr std::int32_t cells_with_formulas = -4123;
-constexpr std::int32_t blank_cells = 4;
-constexpr std::int32_t visible_cells = 12;
-
-// What the second argument chooses among, added together.
-constexpr std::int32_t numbers = 1;
-constexpr std::int32_t texts = 2;
-constexpr std::int32_t truths = 4;
-constexpr std::int32_t errors = 16;
-constexpr std::int32_t any_value = numbers | texts | truths | errors;
-
+namespace kind = numbers::special_cells;
+namespace values = numbers::special_values;
 namespace flag = css::sheet::CellFlags;
 namespace result = css::sheet::FormulaResult;
 
 // Truth values are numbers to the office, constant errors are formulas.
 sal_Int16 content_flags(std::int32_t value) {
-    const sal_Int32 number_flags = value & (numbers | truths) ? flag::VALUE | flag::DATETIME : 0;
-    return static_cast<sal_Int16>(number_flags | (value & texts ? flag::STRING : 0));
+    const sal_Int32 number_flags = value & (values::numbers | values::truths) ? flag::VALUE | flag::DATETIME : 0;
+    return static_cast<sal_Int16>(number_flags | (value & values::texts ? flag::STRING : 0));
 }
 sal_Int32 result_flags(std::int32_t value) {
-    return (value & (numbers | truths) ? result::VALUE : 0) | (value & texts ? result::STRING : 0) |
-           (value & errors ? result::ERROR : 0);
+    return (value & (values::numbers | values::truths) ? result::VALUE : 0) |
+           (value & values::texts ? result::STRING : 0) | (value & values::errors ? result::ERROR : 0);
 }
 
 struct Kind {
@@ -45,25 +33,18 @@ struct Kind {
     CellPlaces (*find)(const Cells& cells, std::int32_t value);
 };
 constexpr std::array kinds{
-    Kind{cells_with_comments, [](const Cells& cells, std::int32_t) { return content_places(cells, flag::ANNOTATION); }},
-    Kind{cells_with_constants,
+    Kind{kind::comments, [](const Cells& cells, std::int32_t) { return content_places(cells, flag::ANNOTATION); }},
+    Kind{kind::constants,
          [](const Cells& cells, std::int32_t value) { return content_places(cells, content_flags(value)); }},
-    Kind{cells_with_formulas,
+    Kind{kind::formulas,
          [](const Cells& cells, std::int32_t value) { return formula_places(cells, result_flags(value)); }},
-    Kind{blank_cells, [](const Cells& cells, std::int32_t) { return empty_places(cells); }},
-    Kind{visible_cells, [](const Cells& cells, std::int32_t) { return visible_places(cells); }},
+    Kind{kind::blanks, [](const Cells& cells, std::int32_t) { return empty_places(cells); }},
+    Kind{kind::visible, [](const Cells& cells, std::int32_t) { return visible_places(cells); }},
 };
 
-// Excel's numbers for the way of searching.
-constexpr std::int32_t in_values = -4163;
-constexpr std::int32_t in_comments = -4144;
-constexpr std::int32_t whole_cell = 1;
-constexpr std::int32_t by_columns = 2;
-constexpr std::int32_t backwards = 2;
-
 std::int16_t search_type(std::int32_t look_in) {
-    if (look_in == in_values) return 1;
-    return look_in == in_comments ? 2 : 0;
+    if (look_in == numbers::look_in::values) return 1;
+    return look_in == numbers::look_in::comments ? 2 : 0;
 }
 
 // Excel's sign before a wildcard that stands for itself is a tilde, the office's a backslash.
@@ -84,15 +65,16 @@ rtl::OUString pattern(std::u16string_view what) {
 Object RangeObject::special_cells(std::int32_t type, std::optional<std::int32_t> value) {
     const Sheet& sheet = areas_.sheet;
     const Rectangle used = used_area(sheet);
-    if (type == last_cell) return make_range(range_at(sheet, {used.right, used.bottom, used.right, used.bottom}));
-    const auto* kind = std::ranges::find(kinds, type, &Kind::excel);
-    if (kind == kinds.end()) throw Error(ErrorNumber::host_refused);
+    if (type == kind::last) return make_range(range_at(sheet, {used.right, used.bottom, used.right, used.bottom}));
+    const auto* row = std::ranges::find(kinds, type, &Kind::excel);
+    if (row == kinds.end()) throw Error(ErrorNumber::host_refused);
     const bool one_cell = areas_.areas.size() == 1 && areas_.rectangle().cells() == 1;
     RangeAreas found{sheet, {}, RangeUnit::cells};
     for (std::size_t i = 0; i < areas_.areas.size(); ++i) {
         const auto within = one_cell ? used : areas_.rectangle(i).common_with(used);
         if (!within) continue;
-        for (const css::table::CellRangeAddress& at : kind->find(cells_at(sheet, *within), value.value_or(any_value))) {
+        for (const css::table::CellRangeAddress& at :
+             row->find(cells_at(sheet, *within), value.value_or(values::any))) {
             found.areas.push_back(cells_at(sheet, {at.StartColumn, at.StartRow, at.EndColumn, at.EndRow}));
         }
     }
@@ -108,12 +90,12 @@ Object RangeObject::find(const std::u16string& what, const Variant& after, std::
     const css::uno::Reference<css::util::XSearchDescriptor> search = searchable->createSearchDescriptor();
     const Ref settings{search};
     settings->setSearchString(pattern(what));
-    set_property(settings, "SearchBackwards", direction.value_or(0) == backwards);
-    set_property(settings, "SearchByRow", order.value_or(0) != by_columns);
+    set_property(settings, "SearchBackwards", direction.value_or(0) == numbers::search_direction::previous);
+    set_property(settings, "SearchByRow", order.value_or(0) != numbers::search_order::by_columns);
     set_property(settings, "SearchWildcard", true);
-    set_property(settings, "SearchWords", look_at.value_or(0) == whole_cell);
+    set_property(settings, "SearchWords", look_at.value_or(0) == numbers::look_at::whole);
     set_property(settings, "SearchCaseSensitive", match_case.value_or(false));
-    set_property(settings, "SearchFormatted", look_in.value_or(0) == in_values);
+    set_property(settings, "SearchFormatted", look_in.value_or(0) == numbers::look_in::values);
     set_property(settings, "SearchType", search_type(look_in.value_or(0)));
     const Rectangle corner = areas_.rectangle();
     const RangeAreas start = after.is_missing()
