@@ -19,7 +19,8 @@ function(qor_share_precompiled target)
   if(NOT WIN32 AND QOR_PRECOMPILED)
     target_precompile_headers(${target} REUSE_FROM ${QOR_PRECOMPILED})
     # g++ 12 forgets which precompiled headers are the system's, and warns of what it takes for overflows in them.
-    target_compile_options(${target} PRIVATE -fpch-preprocess -Wno-array-bounds)
+    target_compile_options(${target} PRIVATE
+      -fpch-preprocess -Wno-array-bounds -Wno-stringop-overread -Wno-stringop-overflow)
   endif()
 endfunction()
 

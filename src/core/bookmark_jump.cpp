@@ -34,7 +34,9 @@ void jump_to_bookmark(const std::u16string& data_file, bool silent) {
     std::array<std::u16string, CBookmark::fields> field;
     std::ranges::transform(info, field.begin(),
                            [](const Variant& value) { return std::u16string(trim(to_text(value))); });
-    const auto& [bookmark, workbook, full_path, worksheet, range] = field;
+    const std::u16string& full_path = field[2];
+    const std::u16string& worksheet = field[3];
+    const std::u16string& range = field[4];
 
     if (const Object book = open_workbook(full_path)) {
         attempt([&] { book.get(names::Worksheets, worksheet).call(names::Activate); });

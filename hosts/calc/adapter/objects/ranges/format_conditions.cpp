@@ -105,6 +105,7 @@ std::vector<Condition> conditions_of(const Sheet& sheet, const Rectangle& cell) 
     }
     std::ranges::stable_sort(found, {}, [](const auto& one) { return one.first; });
     std::vector<Condition> result;
+    result.reserve(found.size());
     for (auto& [id, condition] : found) result.push_back(std::move(condition));
     return result;
 }
