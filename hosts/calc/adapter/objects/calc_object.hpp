@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <com/sun/star/uno/XInterface.hpp>
+#include <functional>
 
+#include "automation/member_names.hpp"
 #include "automation/member_table.hpp"
 #include "hosts/calc/adapter/objects/object_model.hpp"
 #include "hosts/calc/adapter/objects/refusal.hpp"
@@ -56,6 +59,10 @@ class CalcObject : public Dispatch {
         return Self::name_of_type;
     }
 
+  protected:
+    Self& self() { return static_cast<Self&>(*this); }
+    const Self& self() const { return static_cast<const Self&>(*this); }
+
   private:
     // A refusal, said in the host's words with the member and the place. One that another object raised, on whose
     // members this one's stands, has been said already.
@@ -78,20 +85,35 @@ class CalcObject : public Dispatch {
     // A class enters the list of objects by being compiled: type_name() above is what instantiates this.
     static inline const bool is_described =
         (object_model().push_back({Self::name_of_type, &CalcObject::describe_members}), true);
-
-    Self& self() { return static_cast<Self&>(*this); }
-    const Self& self() const { return static_cast<const Self&>(*this); }
 };
 
 using Identity = css::uno::Reference<css::uno::XInterface>;
 
-// The element of a collection that an index from 1 asks for. Raises 9 when it lies outside.
+// A member that a class has from its base.
+template <class Self, class Base>
+Member<Self> inherited(Member<Base> row) {
+    return {row.name,     row.accesses,          std::move(row.parameters), std::move(row.invoke),
+            row.on_error, row.result_at_failure, row.by_reference};
+}
+
+// The element that an index from 1 asks for. Raises that error when it lies outside.
 template <class Elements>
-auto& element_at(Elements& elements, std::int32_t index) {
-    if (index < 1 || static_cast<std::size_t>(index) > elements.size()) {
-        throw Error(ErrorNumber::subscript_out_of_range);
-    }
+auto& element_at(Elements& elements, std::int32_t index, ErrorNumber outside = ErrorNumber::subscript_out_of_range) {
+    if (index < 1 || static_cast<std::size_t>(index) > elements.size()) throw Error(outside);
     return elements[static_cast<std::size_t>(index - 1)];
+}
+
+// The other way round: the index of an element. Raises 1004 when it is none of them.
+template <class Elements, class Value, class Projection = std::identity>
+std::int32_t index_of(const Elements& elements, const Value& value, Projection projection = {}) {
+    const auto found = std::ranges::find(elements, value, projection);
+    if (found == elements.end()) throw Error(ErrorNumber::host_refused);
+    return static_cast<std::int32_t>(found - elements.begin()) + 1;
+}
+
+// A property that answers a collection, and called with an index its element.
+inline Variant item_or_all(Object collection, const Variant& index) {
+    return index.is_missing() ? Variant(std::move(collection)) : collection.get(names::Item, index);
 }
 
 }  // namespace qor::calc

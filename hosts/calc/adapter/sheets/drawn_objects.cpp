@@ -12,7 +12,6 @@
 #include "hosts/calc/adapter/ground/write_guard.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "platform/text.hpp"
-#include "runtime/conversion.hpp"
 
 namespace qor::calc {
 namespace {
@@ -84,17 +83,6 @@ std::int32_t count_drawn_objects(const Sheet& sheet) {
     const Ref comments{Ref<css::sheet::XSheetAnnotationsSupplier>(sheet.sheet)->getAnnotations()};
     return static_cast<std::int32_t>(all.size()) - static_cast<std::int32_t>(captions) +
            Ref<css::container::XIndexAccess>(comments)->getCount();
-}
-
-const DrawnObject& drawn_object(const std::vector<DrawnObject>& all, const Variant& index) {
-    auto found = all.end();
-    if (const auto* name = index.get_if<std::u16string>()) {
-        found = std::ranges::find_if(all, [&](const DrawnObject& o) { return equal_ignoring_case(o.name(), *name); });
-    } else if (const std::int32_t place = to_long(index); place >= 1 && static_cast<std::size_t>(place) <= all.size()) {
-        found = all.begin() + (place - 1);
-    }
-    if (found == all.end()) throw Error(ErrorNumber::host_refused);
-    return *found;
 }
 
 std::optional<DrawnObject> selected_object(const Book& book) {

@@ -2,7 +2,6 @@
 
 #include <com/sun/star/drawing/XShape.hpp>
 
-#include "automation/variant.hpp"
 #include "hosts/calc/adapter/ground/book.hpp"
 
 namespace qor::calc {
@@ -28,9 +27,6 @@ std::vector<DrawnObject> embedded_objects(const Sheet& sheet, Embedded kind);
 
 // How many objects there are, comments among them.
 std::int32_t count_drawn_objects(const Sheet& sheet);
-
-// The one of that name or number from 1; raises 1004 when there is none.
-const DrawnObject& drawn_object(const std::vector<DrawnObject>& all, const Variant& index);
 
 // The object that is selected alone in the workbook's current window; none when something else is.
 std::optional<DrawnObject> selected_object(const Book& book);

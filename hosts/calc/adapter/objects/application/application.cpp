@@ -52,9 +52,6 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
     Object active_cell() { return in_active_window(active_cell_of); }
     Object selection() { return in_active_window(selection_of); }
 
-    static Variant item_or_all(Object collection, const Variant& index) {
-        return index.is_missing() ? Variant(std::move(collection)) : collection.get(names::Item, index);
-    }
     Variant workbooks(const Variant& index) { return item_or_all(make_workbooks(host_), index); }
     Variant windows(const Variant& index) { return item_or_all(make_windows(host_, {}), index); }
     Variant command_bars(const Variant& index) { return item_or_all(make_command_bars(host_), index); }

@@ -6,6 +6,7 @@
 
 #include "hosts/calc/adapter/cells/cell_reader.hpp"
 #include "hosts/calc/adapter/ground/cell_query.hpp"
+#include "hosts/calc/adapter/objects/owned_object.hpp"
 #include "hosts/calc/adapter/objects/ranges/range_object.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
@@ -87,18 +88,16 @@ std::int64_t count_of(const Variant& argument) {
     return array ? array->end() - array->begin() - std::ranges::count_if(*array, &Variant::is_empty) : 1;
 }
 
-class WorksheetFunctionObject final : public CalcObject<WorksheetFunctionObject> {
+class WorksheetFunctionObject final : public OwnedObject<WorksheetFunctionObject, HostPointer> {
   public:
     static constexpr std::u16string_view name_of_type = u"WorksheetFunction";
 
-    explicit WorksheetFunctionObject(HostPointer host) : host_(std::move(host)) {}
+    using OwnedObject::OwnedObject;
 
     static const MemberTable<WorksheetFunctionObject>& members();
 
   private:
     using Self = WorksheetFunctionObject;
-
-    Object application() { return make_application(host_); }
 
     bool is_logical(const Variant& value) { return single_value(value).get_if<bool>() != nullptr; }
 
@@ -126,7 +125,7 @@ class WorksheetFunctionObject final : public CalcObject<WorksheetFunctionObject>
     css::uno::Any called(std::u16string_view member, const char* function,
                          std::initializer_list<css::uno::Any> arguments) {
         const auto functions =
-            create_service<css::sheet::XFunctionAccess>(host_->context(), "com.sun.star.sheet.FunctionAccess");
+            create_service<css::sheet::XFunctionAccess>(owner()->context(), "com.sun.star.sheet.FunctionAccess");
         try {
             return functions->callFunction(rtl::OUString::createFromAscii(function), sequence_of(arguments));
         } catch (const css::uno::Exception&) {
@@ -156,14 +155,11 @@ class WorksheetFunctionObject final : public CalcObject<WorksheetFunctionObject>
         throw Error(ErrorNumber::host_refused, {},
                     u"Unable to get the " + std::u16string(member) + u" property of the WorksheetFunction class");
     }
-
-    HostPointer host_;
 };
 
 const MemberTable<WorksheetFunctionObject>& WorksheetFunctionObject::members() {
     using W = WorksheetFunctionObject;
-    static const MemberTable<W> table({
-        property<&W::application>(u"Application"),
+    static const MemberTable<W> table(rows_with({
         of_any_arguments(u"CountA",
                          [](std::span<Variant> arguments) {
                              std::int64_t count = 0;
@@ -177,11 +173,10 @@ const MemberTable<WorksheetFunctionObject>& WorksheetFunctionObject::members() {
                              for (const Variant& argument : arguments) largest.take(argument);
                              return largest.result();
                          }),
-        property<&W::application>(u"Parent"),
         method<&W::proper>(u"Proper", {u"Arg1"}),
         method<&W::replace>(u"Replace", {u"Arg1", u"Arg2", u"Arg3", u"Arg4"}),
         method<&W::round_down>(u"RoundDown", {u"Arg1", u"Arg2"}),
-    });
+    }));
     return table;
 }
 

@@ -4,8 +4,7 @@
 #include "hosts/calc/adapter/files/built_in_properties.hpp"
 #include "hosts/calc/adapter/files/user_properties.hpp"
 #include "hosts/calc/adapter/ground/write_guard.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/collection.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -17,27 +16,24 @@ namespace {
     throw Error(unspecified_error, {}, u"Method '" + std::u16string(member) + u"' of object 'DocumentProperty' failed");
 }
 
-class DocumentPropertyObject final : public CalcObject<DocumentPropertyObject> {
+class DocumentPropertyObject final : public OwnedObject<DocumentPropertyObject, Book> {
   public:
     static constexpr std::u16string_view name_of_type = u"DocumentProperty";
 
     // A built-in property, or the name of one of the user's.
     using Which = std::variant<const BuiltInProperty*, std::u16string>;
 
-    DocumentPropertyObject(Book book, Which which) : book_(std::move(book)), which_(std::move(which)) {}
+    DocumentPropertyObject(Book book, Which which) : OwnedObject(std::move(book)), which_(std::move(which)) {}
 
-    void require_alive() const { book_.require_alive(); }
     static const MemberTable<DocumentPropertyObject>& members() {
         using P = DocumentPropertyObject;
-        static const MemberTable<P> table({
-            property<&P::application>(u"Application"),
+        static const MemberTable<P> table(rows_with({
             method<&P::remove>(u"Delete"),
             property<&P::link_to_content>(u"LinkToContent"),
             property<&P::name>(u"Name"),
-            property<&P::parent>(u"Parent"),
             property<&P::type>(u"Type"),
             property<&P::value, &P::set_value>(u"Value"),
-        });
+        }));
         return table;
     }
 
@@ -49,7 +45,7 @@ class DocumentPropertyObject final : public CalcObject<DocumentPropertyObject> {
     // Raises when it is gone.
     const std::u16string& own_name() const {
         const auto& own = std::get<std::u16string>(which_);
-        if (!UserProperties(book_).has(own)) raise_unspecified(u"Name");
+        if (!UserProperties(owner()).has(own)) raise_unspecified(u"Name");
         return own;
     }
 
@@ -64,8 +60,8 @@ class DocumentPropertyObject final : public CalcObject<DocumentPropertyObject> {
     }
 
     Variant value() {
-        if (!built_in()) return as_whole_number(UserProperties(book_).value(own_name()));
-        Variant value = built_in()->read ? built_in()->read(book_) : Variant();
+        if (!built_in()) return as_whole_number(UserProperties(owner()).value(own_name()));
+        Variant value = built_in()->read ? built_in()->read(owner()) : Variant();
         if (value.is_empty()) raise_unspecified(u"Value");
         return value;
     }
@@ -78,83 +74,66 @@ class DocumentPropertyObject final : public CalcObject<DocumentPropertyObject> {
 
     void set_value(const Variant& value) {
         if (built_in() && !built_in()->write) raise_unspecified(u"Value");
-        before_change(book_);
-        if (built_in()) return built_in()->write(book_, value);
-        UserProperties(book_).set_value(own_name(), value);
+        before_change(owner());
+        if (built_in()) return built_in()->write(owner(), value);
+        UserProperties(owner()).set_value(own_name(), value);
     }
 
     void remove() {
         if (built_in()) raise_unspecified(u"Delete");
-        before_change(book_);
-        UserProperties(book_).remove(own_name());
+        before_change(owner());
+        UserProperties(owner()).remove(own_name());
     }
 
     bool link_to_content() { return false; }
-    Object parent() { return make_workbook(book_); }
-    Object application() { return make_application(book_.host); }
 
-    Book book_;
     Which which_;
 };
 
-class DocumentPropertiesObject final : public CalcObject<DocumentPropertiesObject> {
+class DocumentPropertiesObject final : public Collection<DocumentPropertiesObject, Book> {
   public:
     static constexpr std::u16string_view name_of_type = u"DocumentProperties";
 
-    DocumentPropertiesObject(Book book, bool built_in) : book_(std::move(book)), built_in_(built_in) {}
+    // For a name or a number that is not there, as Office does.
+    static constexpr ErrorNumber outside = ErrorNumber::invalid_call;
 
-    void require_alive() const { book_.require_alive(); }
+    DocumentPropertiesObject(Book book, bool built_in) : Collection(std::move(book)), built_in_(built_in) {}
+
     static const MemberTable<DocumentPropertiesObject>& members() {
         using P = DocumentPropertiesObject;
-        static const MemberTable<P> table({
+        static const MemberTable<P> table(rows_with({
             method<&P::add>(u"Add", {u"Name", u"LinkToContent", u"Type", u"Value", u"LinkSource"}),
-            property<&P::application>(u"Application"),
-            property<&P::count>(u"Count"),
-            property<&P::item>(u"Item", {u"Index"}),
-            property<&P::parent>(u"Parent"),
-        });
+        }));
         return table;
     }
 
-    std::vector<Variant> elements() const {
-        std::vector<Variant> result;
+    std::vector<DocumentPropertyObject::Which> all() const {
+        std::vector<DocumentPropertyObject::Which> result;
         if (built_in_) {
-            for (const BuiltInProperty& property : built_in_properties()) result.emplace_back(made(&property));
+            for (const BuiltInProperty& property : built_in_properties()) result.emplace_back(&property);
         } else {
-            for (std::u16string& name : UserProperties(book_).names()) result.emplace_back(made(std::move(name)));
+            for (std::u16string& name : UserProperties(owner()).names()) result.emplace_back(std::move(name));
         }
         return result;
     }
+    Object made(DocumentPropertyObject::Which which) const {
+        return make_object<DocumentPropertyObject>(owner(), std::move(which));
+    }
+    Object named(const std::u16string& name) const {
+        return first_that([&](const DocumentPropertyObject::Which& which) {
+            return equal_ignoring_case(to_text(made(which).get(names::Name)), name);
+        });
+    }
 
   private:
-    Object made(DocumentPropertyObject::Which which) const {
-        return make_object<DocumentPropertyObject>(book_, std::move(which));
-    }
-
-    std::int32_t count() { return static_cast<std::int32_t>(elements().size()); }
-
-    // Raises 5 for a name or a number that is not there, as Office does.
-    Object item(const Variant& index) {
-        const std::vector<Variant> all = elements();
-        if (const auto* name = index.get_if<std::u16string>()) {
-            for (const Variant& property : all) {
-                if (equal_ignoring_case(to_text(property.get(names::Name)), *name)) return property.object();
-            }
-            throw Error(ErrorNumber::invalid_call);
-        }
-        const std::int32_t place = to_long(index);
-        if (place < 1 || static_cast<std::size_t>(place) > all.size()) throw Error(ErrorNumber::invalid_call);
-        return all[static_cast<std::size_t>(place) - 1].object();
-    }
-
     // A value is brought into the kind that is asked for. There is none that follows a cell.
     Object add(const std::u16string& name, bool link_to_content, std::optional<std::int32_t> type,
                const Variant& value) {
         if (built_in_) throw Error(ErrorNumber::no_such_member);
-        const UserProperties properties(book_);
+        const UserProperties properties(owner());
         if (link_to_content || name.empty() || properties.has(name)) throw Error(ErrorNumber::invalid_call);
         const Variant kept = in_kind(static_cast<PropertyKind>(type.value_or(0)), value);
-        before_change(book_);
+        before_change(owner());
         properties.set_value(name, kept);
         return made(name);
     }
@@ -174,10 +153,6 @@ class DocumentPropertiesObject final : public CalcObject<DocumentPropertiesObjec
         throw Error(ErrorNumber::invalid_call);
     }
 
-    Object parent() { return make_workbook(book_); }
-    Object application() { return make_application(book_.host); }
-
-    Book book_;
     bool built_in_;
 };
 

@@ -1,6 +1,5 @@
 #include "hosts/calc/adapter/ground/defined_names.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/collection.hpp"
 #include "hosts/calc/adapter/objects/ranges/range_object.hpp"
 
 namespace qor::calc {
@@ -49,57 +48,33 @@ class NameObject final : public CalcObject<NameObject> {
     DefinedName name_;
 };
 
-class NamesObject final : public CalcObject<NamesObject> {
+class NamesObject final : public Collection<NamesObject, Book> {
   public:
     static constexpr std::u16string_view name_of_type = u"Names";
 
-    explicit NamesObject(Book book) : book_(std::move(book)) {}
+    static constexpr ErrorNumber outside = ErrorNumber::host_refused;  // the only one that Excel's Names know
 
-    void require_alive() const { book_.require_alive(); }
+    using Collection::Collection;
+
     static const MemberTable<NamesObject>& members() {
-        using N = NamesObject;
-        static const MemberTable<N> table({
-            method<&N::add>(u"Add", {u"Name", u"RefersTo"}),
-            property<&N::application>(u"Application"),
-            property<&N::count>(u"Count"),
-            property<&N::item>(u"Item", {u"Index"}),
-            property<&N::parent>(u"Parent"),
-        });
+        static const MemberTable<NamesObject> table(rows_with({
+            method<&NamesObject::add>(u"Add", {u"Name", u"RefersTo"}),
+        }));
         return table;
     }
 
-    std::vector<Variant> elements() const {
-        std::vector<Variant> result;
-        for (DefinedName& name : defined_names(book_)) result.emplace_back(make_object<NameObject>(std::move(name)));
-        return result;
-    }
+    std::vector<DefinedName> all() const { return defined_names(owner()); }
+    Object made(DefinedName name) const { return make_object<NameObject>(std::move(name)); }
+    Object named(const std::u16string& text) const { return made(defined_name(owner(), text)); }
 
   private:
-    std::int32_t count() { return static_cast<std::int32_t>(defined_names(book_).size()); }
-
-    // Excel's Names know only error 1004.
-    Object item(const Variant& index) {
-        if (const auto* text = index.get_if<std::u16string>()) {
-            return make_object<NameObject>(defined_name(book_, *text));
-        }
-        const std::int32_t place = to_long(index);
-        const std::vector<DefinedName> all = defined_names(book_);
-        if (place < 1 || static_cast<std::size_t>(place) > all.size()) throw Error(ErrorNumber::host_refused);
-        return make_object<NameObject>(all[static_cast<std::size_t>(place) - 1]);
-    }
-
     Object add(const std::u16string& name, const Variant& meaning) {
-        return make_object<NameObject>(define_name(book_, name, formula_of(meaning)));
+        return made(define_name(owner(), name, formula_of(meaning)));
     }
 
     static std::u16string formula_of(const Variant& meaning) {
         return meaning.is(Variant::Kind::object) ? u"=" + reference_to(areas_of(meaning)) : to_text(meaning);
     }
-
-    Object parent() { return make_workbook(book_); }
-    Object application() { return make_application(book_.host); }
-
-    Book book_;
 };
 
 }  // namespace

@@ -1,86 +1,61 @@
 #include "hosts/calc/adapter/files/documents.hpp"
 #include "hosts/calc/adapter/files/recent_file_list.hpp"
 #include "hosts/calc/adapter/ground/file_paths.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/collection.hpp"
 
 namespace qor::calc {
 namespace {
 
-class RecentFileObject final : public CalcObject<RecentFileObject> {
+class RecentFileObject final : public OwnedObject<RecentFileObject, HostPointer> {
   public:
     static constexpr std::u16string_view name_of_type = u"RecentFile";
 
-    RecentFileObject(HostPointer host, std::u16string address) : host_(std::move(host)), address_(std::move(address)) {}
+    RecentFileObject(HostPointer host, std::u16string address)
+        : OwnedObject(std::move(host)), address_(std::move(address)) {}
+
+    Object parent() const { return make_recent_files(owner()); }
 
     static const MemberTable<RecentFileObject>& members() {
         using R = RecentFileObject;
-        static const MemberTable<R> table({
-            property<&R::application>(u"Application"),
+        static const MemberTable<R> table(rows_with({
             method<&R::remove>(u"Delete"),
             property<&R::index>(u"Index"),
             property<&R::path>(u"Name"),
             method<&R::open>(u"Open"),
-            property<&R::parent>(u"Parent"),
             property<&R::path>(u"Path"),
-        });
+        }));
         return table;
     }
 
   private:
     std::u16string path() { return path_of_address(address_); }
-    std::int32_t index() {
-        const std::vector<std::u16string> all = recent_files(*host_);
-        const auto place = std::ranges::find(all, address_);
-        if (place == all.end()) throw Error(ErrorNumber::host_refused);
-        return static_cast<std::int32_t>(place - all.begin()) + 1;
-    }
-    void remove() { forget_recent_file(*host_, address_); }
-    Object open() { return make_workbook(open_book(host_, path(), false)); }
-    Object parent() { return make_recent_files(host_); }
-    Object application() { return make_application(host_); }
+    std::int32_t index() { return index_of(recent_files(*owner()), address_); }
+    void remove() { forget_recent_file(*owner(), address_); }
+    Object open() { return make_workbook(open_book(owner(), path(), false)); }
 
-    HostPointer host_;
     std::u16string address_;
 };
 
-class RecentFilesObject final : public CalcObject<RecentFilesObject> {
+class RecentFilesObject final : public Collection<RecentFilesObject, HostPointer> {
   public:
     static constexpr std::u16string_view name_of_type = u"RecentFiles";
 
-    explicit RecentFilesObject(HostPointer host) : host_(std::move(host)) {}
+    using Collection::Collection;
 
     static const MemberTable<RecentFilesObject>& members() {
         using R = RecentFilesObject;
-        static const MemberTable<R> table({
-            property<&R::application>(u"Application"),
-            property<&R::count>(u"Count"),
-            property<&R::item>(u"Item", {u"Index"}),
+        static const MemberTable<R> table(rows_with({
             property<&R::maximum, &R::set_maximum>(u"Maximum"),
-            property<&R::application>(u"Parent"),
-        });
+        }));
         return table;
     }
 
-    std::vector<Variant> elements() const {
-        std::vector<Variant> result;
-        for (const std::u16string& address : recent_files(*host_)) {
-            result.emplace_back(make_object<RecentFileObject>(host_, address));
-        }
-        return result;
-    }
+    std::vector<std::u16string> all() const { return recent_files(*owner()); }
+    Object made(const std::u16string& address) const { return make_object<RecentFileObject>(owner(), address); }
 
   private:
-    std::int32_t count() { return static_cast<std::int32_t>(recent_files(*host_).size()); }
-    Object item(std::int32_t index) {
-        const std::vector<std::u16string> all = recent_files(*host_);
-        return make_object<RecentFileObject>(host_, element_at(all, index));
-    }
-    std::int32_t maximum() { return recent_file_limit(*host_); }
-    void set_maximum(std::int32_t limit) { set_recent_file_limit(*host_, limit); }
-    Object application() { return make_application(host_); }
-
-    HostPointer host_;
+    std::int32_t maximum() { return recent_file_limit(*owner()); }
+    void set_maximum(std::int32_t limit) { set_recent_file_limit(*owner(), limit); }
 };
 
 }  // namespace

@@ -42,9 +42,6 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
 
     Variant windows(const Variant& index) { return item_or_all(make_windows(book_.host, book_), index); }
     Variant worksheets(const Variant& index) { return item_or_all(make_sheets(book_), index); }
-    static Variant item_or_all(const Object& collection, const Variant& index) {
-        return index.is_missing() ? Variant(collection) : collection.get(names::Item, index);
-    }
     Object active_chart() { return active_chart_of(book_); }
     Variant defined_names(const Variant& index) { return item_or_all(make_names(book_), index); }
     Variant built_in_properties(const Variant& index) { return item_or_all(make_built_in_properties(book_), index); }

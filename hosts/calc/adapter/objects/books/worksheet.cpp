@@ -167,9 +167,6 @@ class WorksheetObject final : public CalcObject<WorksheetObject> {
     Variant chart_objects(const Variant& index) { return item_or_all(make_chart_objects(sheet_), index); }
     Variant ole_objects(const Variant& index) { return item_or_all(make_ole_objects(sheet_), index); }
     Object shapes() { return make_shapes(sheet_); }
-    static Variant item_or_all(Object collection, const Variant& index) {
-        return index.is_missing() ? Variant(std::move(collection)) : collection.get(names::Item, index);
-    }
 
     void check_spelling() { qor::calc::check_spelling(range_at(sheet_, whole_sheet)); }
     void print_out(std::optional<std::int32_t> from, std::optional<std::int32_t> to, std::optional<std::int32_t> copies,

@@ -45,8 +45,7 @@ class CommandBarObject final : public CalcObject<CommandBarObject> {
     bool built_in() { return bar().built_in; }
     std::int32_t index() {
         require(*bar_);
-        const auto& all = of_.bars->all();
-        return static_cast<std::int32_t>(std::ranges::find(all, bar_) - all.begin()) + 1;
+        return index_of(of_.bars->all(), bar_);
     }
 
     std::int32_t position() { return read_place<&BarPlace::position>(number_of(BarPosition::top)); }
@@ -69,10 +68,7 @@ class CommandBarObject final : public CalcObject<CommandBarObject> {
     bool visible() { return is_menu_bar() || of_.bars->place_of(bar()).visible(); }
     void set_visible(bool visible) { write_place<&BarPlace::set_visible>(u"Visible", visible); }
 
-    Variant controls(const Variant& index) {
-        Object all = make_command_bar_controls(place());
-        return index.is_missing() ? Variant(std::move(all)) : all.get(names::Item, index);
-    }
+    Variant controls(const Variant& index) { return item_or_all(make_command_bar_controls(place()), index); }
     Object find(std::optional<std::int32_t> type, std::optional<std::int32_t> id,
                 const std::optional<std::u16string>& tag, std::optional<bool> visible, std::optional<bool> recursive) {
         return find_control(place(), {type, id, tag, visible, recursive.value_or(false)});

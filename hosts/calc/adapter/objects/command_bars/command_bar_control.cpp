@@ -42,8 +42,7 @@ class CommandBarPopupObject final : public CommandBarControl<CommandBarPopupObje
   private:
     Variant controls(const Variant& index) {
         control();
-        Object all = make_command_bar_controls({place().of, place().bar, pointer()});
-        return index.is_missing() ? Variant(std::move(all)) : all.get(names::Item, index);
+        return item_or_all(make_command_bar_controls({place().of, place().bar, pointer()}), index);
     }
 };
 

@@ -1,32 +1,25 @@
 #pragma once
 
-#include "hosts/calc/adapter/objects/calc_object.hpp"
 #include "hosts/calc/adapter/objects/command_bars/command_bar_objects.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/owned_object.hpp"
 
 namespace qor::calc {
 
 // What buttons, lists and popups have in common.
 template <class Self>
-class CommandBarControl : public CalcObject<Self> {
+class CommandBarControl : public OwnedObject<Self, ControlPlace> {
+    using Base = OwnedObject<Self, ControlPlace>;
+
   public:
     CommandBarControl(ControlPlace place, ControlPointer control)
-        : place_(std::move(place)), control_(std::move(control)) {}
+        : Base(std::move(place)), control_(std::move(control)) {}
 
     const Control* identity() const { return control_.get(); }
 
     // The rows that all have, and those of one kind.
     static std::vector<Member<Self>> rows_with(std::vector<Member<Self>> rows) {
         using C = CommandBarControl;
-        const auto add = [&](Member<C> row) {
-            const auto invoke = std::move(row.invoke);
-            const auto invoke_inherited = [invoke](Self& self, Access access, std::span<Variant> arguments) {
-                return invoke(self, access, arguments);
-            };
-            rows.push_back(
-                {row.name, row.accesses, row.parameters, invoke_inherited, row.on_error, row.result_at_failure});
-        };
-        add(property<&C::application>(u"Application"));
+        const auto add = [&](Member<C> row) { rows.push_back(inherited<Self>(std::move(row))); };
         add(property<&C::begin_group, &C::set_begin_group>(u"BeginGroup"));
         add(property<&C::built_in>(u"BuiltIn"));
         add(property<&C::caption, &C::set_caption>(u"Caption"));
@@ -36,18 +29,22 @@ class CommandBarControl : public CalcObject<Self> {
         add(property<&C::index>(u"Index"));
         add(property<&C::on_action, &C::set_on_action>(u"OnAction"));
         add(property<&C::parameter, &C::set_parameter>(u"Parameter"));
-        add(property<&C::parent>(u"Parent"));
         add(property<&C::tag, &C::set_tag>(u"Tag"));
         add(property<&C::tool_tip, &C::set_tool_tip>(u"TooltipText"));
         add(property<&C::type>(u"Type"));
         add(property<&C::visible, &C::set_visible>(u"Visible"));
         add(property<&C::width, &C::set_width>(u"Width"));
-        return rows;
+        return Base::rows_with(std::move(rows));
+    }
+
+    Object parent() const {
+        control();
+        return object_of(place());
     }
 
   protected:
     Control& control() const {
-        require(*place_.bar);
+        require(*place().bar);
         if (control_->deleted) throw Error(ErrorNumber::host_refused, {}, u"The control has been deleted.");
         return *control_;
     }
@@ -65,10 +62,10 @@ class CommandBarControl : public CalcObject<Self> {
         Control& target = own(member);
         if (target.*field == value) return;
         target.*field = std::move(value);
-        place_.of.bars->changed(place_.bar);
+        place().of.bars->changed(place().bar);
     }
-    Bars& bars() const { return *place_.of.bars; }
-    const ControlPlace& place() const { return place_; }
+    Bars& bars() const { return *place().of.bars; }
+    const ControlPlace& place() const { return this->owner(); }
     const ControlPointer& pointer() const { return control_; }
 
   private:
@@ -85,8 +82,7 @@ class CommandBarControl : public CalcObject<Self> {
     std::int32_t id() { return control().id; }
     std::int32_t index() {
         control();
-        const Controls& among = place_.controls();
-        return static_cast<std::int32_t>(std::ranges::find(among, control_) - among.begin()) + 1;
+        return index_of(place().controls(), control_);
     }
     std::u16string on_action() { return control().action; }
     void set_on_action(const std::u16string& macro) { own(u"OnAction").action = macro; }
@@ -109,17 +105,9 @@ class CommandBarControl : public CalcObject<Self> {
 
     void remove(std::optional<bool>) {
         own(u"Delete");
-        bars().remove_control(place_.bar, place_.controls(), control_);
+        bars().remove_control(place().bar, place().controls(), control_);
     }
 
-    Object parent() {
-        control();
-        if (!place_.popup) return make_command_bar(place_.of, place_.bar);
-        return make_command_bar_control(surroundings(place_.of, place_.bar, *place_.popup), place_.popup);
-    }
-    Object application() { return make_application(place_.of.host); }
-
-    ControlPlace place_;
     ControlPointer control_;
 };
 

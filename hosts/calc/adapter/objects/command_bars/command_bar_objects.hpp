@@ -23,6 +23,11 @@ struct ControlPlace {
     Controls& controls() const;
 };
 
+// To objects it belongs, the bar or the popup.
+Object application_of(const ControlPlace& place);
+Object object_of(const ControlPlace& place);
+inline void require_alive(const ControlPlace&) {}
+
 // Where on the bar a control stands.
 ControlPlace surroundings(const BarsOf& of, const BarPointer& bar, const Control& control);
 

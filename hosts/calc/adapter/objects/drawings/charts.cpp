@@ -2,8 +2,7 @@
 #include <com/sun/star/util/XModifiable.hpp>
 
 #include "hosts/calc/adapter/ground/write_guard.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/drawings/embedded_object.hpp"
 #include "hosts/calc/adapter/sheets/chart_series.hpp"
 #include "hosts/calc/uno/property.hpp"
 
@@ -13,194 +12,109 @@ namespace {
 Object make_chart(DrawnObject object);
 Object make_chart_object(DrawnObject object);
 
-class SeriesObject final : public CalcObject<SeriesObject> {
+class SeriesObject final : public OwnedObject<SeriesObject, DrawnObject> {
   public:
     static constexpr std::u16string_view name_of_type = u"Series";
 
-    SeriesObject(DrawnObject chart, ChartSeries series) : chart_(std::move(chart)), series_(std::move(series)) {}
+    SeriesObject(DrawnObject chart, ChartSeries series) : OwnedObject(std::move(chart)), series_(std::move(series)) {}
 
     Identity identity() const { return Identity(series_.series.reference(), css::uno::UNO_QUERY); }
     void require_alive() const {
-        chart_.require_alive();
+        OwnedObject::require_alive();
         current();
     }
+    Object parent() const { return make_chart(owner()); }
     static const MemberTable<SeriesObject>& members() {
         using S = SeriesObject;
-        static const MemberTable<S> table({
-            property<&S::application>(u"Application"),
+        static const MemberTable<S> table(rows_with({
             method<&S::remove>(u"Delete"),
             property<&S::formula>(u"Formula"),
             property<&S::name>(u"Name"),
-            property<&S::parent>(u"Parent"),
             property<&S::plot_order>(u"PlotOrder"),
-        });
+        }));
         return table;
     }
 
   private:
     // The series with its order at this moment; raises 1004 when it was deleted.
     ChartSeries current() const {
-        const std::vector<ChartSeries> all = series_of(chart_);
+        const std::vector<ChartSeries> all = series_of(owner());
         const auto found = std::ranges::find(all, series_.series, &ChartSeries::series);
         if (found == all.end()) throw Error(ErrorNumber::host_refused);
         return *found;
     }
 
     std::u16string name() { return current().name(); }
-    std::u16string formula() { return current().formula(chart_.sheet.book.host->translator()); }
+    std::u16string formula() { return current().formula(owner().sheet.book.host->translator()); }
     std::int32_t plot_order() { return current().order; }
     void remove() {
-        before_formatting(range_at(chart_.sheet, {}));
+        const Sheet& sheet = owner().sheet;
+        before_formatting(range_at(sheet, {}));
         series_.container->removeDataSeries(series_.series.reference());
-        Ref<css::util::XModifiable>(chart_.sheet.book.document)->setModified(true);
+        Ref<css::util::XModifiable>(sheet.book.document)->setModified(true);
     }
-    Object parent() { return make_chart(chart_); }
-    Object application() { return make_application(chart_.sheet.book.host); }
 
-    DrawnObject chart_;
     ChartSeries series_;
 };
 
-class SeriesCollection final : public CalcObject<SeriesCollection> {
+class SeriesCollection final : public Collection<SeriesCollection, DrawnObject> {
   public:
     static constexpr std::u16string_view name_of_type = u"SeriesCollection";
+    static constexpr ErrorNumber outside = ErrorNumber::host_refused;
 
-    explicit SeriesCollection(DrawnObject chart) : chart_(std::move(chart)) {}
+    using Collection::Collection;
 
-    void require_alive() const { chart_.require_alive(); }
-    static const MemberTable<SeriesCollection>& members() {
-        using S = SeriesCollection;
-        static const MemberTable<S> table({
-            property<&S::application>(u"Application"),
-            property<&S::count>(u"Count"),
-            property<&S::item>(u"Item", {u"Index"}),
-            property<&S::parent>(u"Parent"),
-        });
-        return table;
+    Object parent() const { return make_chart(owner()); }
+    std::vector<ChartSeries> all() const { return series_of(owner()); }
+    Object made(const ChartSeries& series) const { return make_object<SeriesObject>(owner(), series); }
+    Object named(const std::u16string& name) const {
+        return first_that([&](const ChartSeries& series) { return series.name() == name; });
     }
-
-    std::vector<Variant> elements() const {
-        std::vector<Variant> result;
-        for (const ChartSeries& series : series_of(chart_)) {
-            result.emplace_back(make_object<SeriesObject>(chart_, series));
-        }
-        return result;
-    }
-
-  private:
-    std::int32_t count() { return static_cast<std::int32_t>(series_of(chart_).size()); }
-    Object item(const Variant& index) {
-        const std::vector<ChartSeries> all = series_of(chart_);
-        const auto* name = index.get_if<std::u16string>();
-        const std::int32_t place = name ? 0 : to_long(index);
-        const auto found = std::ranges::find_if(
-            all, [&](const ChartSeries& series) { return name ? series.name() == *name : series.order == place; });
-        if (found == all.end()) throw Error(ErrorNumber::host_refused);
-        return make_object<SeriesObject>(chart_, *found);
-    }
-    Object parent() { return make_chart(chart_); }
-    Object application() { return make_application(chart_.sheet.book.host); }
-
-    DrawnObject chart_;
 };
 
-class ChartObject final : public CalcObject<ChartObject> {
+class ChartObject final : public OwnedObject<ChartObject, DrawnObject> {
   public:
     static constexpr std::u16string_view name_of_type = u"Chart";
 
-    explicit ChartObject(DrawnObject object) : object_(std::move(object)) {}
+    using OwnedObject::OwnedObject;
 
-    Identity identity() const { return Identity(object_.shape.reference(), css::uno::UNO_QUERY); }
-    void require_alive() const { object_.require_alive(); }
+    Identity identity() const { return Identity(owner().shape.reference(), css::uno::UNO_QUERY); }
+    Object parent() const { return make_chart_object(owner()); }
     static const MemberTable<ChartObject>& members() {
-        using C = ChartObject;
-        static const MemberTable<C> table({
-            property<&C::application>(u"Application"),
-            property<&C::name>(u"Name"),
-            property<&C::parent>(u"Parent"),
-            property<&C::series>(u"SeriesCollection", {u"Index"}),
-        });
+        static const MemberTable<ChartObject> table(rows_with({
+            property<&ChartObject::name>(u"Name"),
+            property<&ChartObject::series>(u"SeriesCollection", {u"Index"}),
+        }));
         return table;
     }
 
   private:
-    std::u16string name() { return object_.sheet.name() + u" " + object_.name(); }
-    Variant series(const Variant& index) {
-        const Object all = make_object<SeriesCollection>(object_);
-        return index.is_missing() ? Variant(all) : all.get(names::Item, index);
-    }
-    Object parent() { return make_chart_object(object_); }
-    Object application() { return make_application(object_.sheet.book.host); }
-
-    DrawnObject object_;
+    std::u16string name() { return owner().sheet.name() + u" " + owner().name(); }
+    Variant series(const Variant& index) { return item_or_all(make_object<SeriesCollection>(owner()), index); }
 };
 
-class ChartFrame final : public CalcObject<ChartFrame> {
+class ChartFrame final : public EmbeddedObject<ChartFrame> {
   public:
     static constexpr std::u16string_view name_of_type = u"ChartObject";
 
-    explicit ChartFrame(DrawnObject object) : object_(std::move(object)) {}
+    using EmbeddedObject::EmbeddedObject;
 
-    Identity identity() const { return Identity(object_.shape.reference(), css::uno::UNO_QUERY); }
-    void require_alive() const { object_.require_alive(); }
     static const MemberTable<ChartFrame>& members() {
-        using C = ChartFrame;
-        static const MemberTable<C> table({
-            method<&C::select>(u"Activate"),
-            property<&C::application>(u"Application"),
-            property<&C::chart>(u"Chart"),
-            method<&C::remove>(u"Delete"),
-            property<&C::name, &C::set_name>(u"Name"),
-            property<&C::parent>(u"Parent"),
-            method<&C::select>(u"Select"),
-        });
+        static const MemberTable<ChartFrame> table(rows_with({
+            property<&ChartFrame::chart>(u"Chart"),
+        }));
         return table;
     }
 
   private:
-    void select() { object_.select(); }
-    void remove() { object_.remove(); }
-    Object chart() { return make_chart(object_); }
-    std::u16string name() { return object_.name(); }
-    void set_name(const std::u16string& name) { object_.set_name(name); }
-    Object parent() { return make_worksheet(object_.sheet); }
-    Object application() { return make_application(object_.sheet.book.host); }
-
-    DrawnObject object_;
+    Object chart() { return make_chart(owner()); }
 };
 
-class ChartObjects final : public CalcObject<ChartObjects> {
+class ChartObjects final : public EmbeddedObjects<ChartObjects, ChartFrame, Embedded::chart> {
   public:
     static constexpr std::u16string_view name_of_type = u"ChartObjects";
 
-    explicit ChartObjects(Sheet sheet) : sheet_(std::move(sheet)) {}
-
-    void require_alive() const { sheet_.require_alive(); }
-    static const MemberTable<ChartObjects>& members() {
-        using C = ChartObjects;
-        static const MemberTable<C> table({
-            property<&C::application>(u"Application"),
-            property<&C::count>(u"Count"),
-            property<&C::item>(u"Item", {u"Index"}),
-            property<&C::parent>(u"Parent"),
-        });
-        return table;
-    }
-
-    std::vector<Variant> elements() const {
-        std::vector<Variant> result;
-        for (const DrawnObject& object : all()) result.emplace_back(make_chart_object(object));
-        return result;
-    }
-
-  private:
-    std::vector<DrawnObject> all() const { return embedded_objects(sheet_, Embedded::chart); }
-    std::int32_t count() { return static_cast<std::int32_t>(all().size()); }
-    Object item(const Variant& index) { return make_chart_object(drawn_object(all(), index)); }
-    Object parent() { return make_worksheet(sheet_); }
-    Object application() { return make_application(sheet_.book.host); }
-
-    Sheet sheet_;
+    using EmbeddedObjects::EmbeddedObjects;
 };
 
 Object make_chart(DrawnObject object) {

@@ -6,8 +6,7 @@
 
 #include "hosts/calc/adapter/ground/undo_step.hpp"
 #include "hosts/calc/adapter/ground/write_guard.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/collection.hpp"
 
 namespace qor::calc {
 namespace {
@@ -19,30 +18,31 @@ Annotations annotations_of(const Sheet& sheet) {
     return Ref<css::sheet::XSheetAnnotationsSupplier>(sheet.sheet)->getAnnotations();
 }
 
-class CommentObject final : public CalcObject<CommentObject> {
+class CommentObject final : public OwnedObject<CommentObject, Sheet> {
   public:
     static constexpr std::u16string_view name_of_type = u"Comment";
 
-    CommentObject(Sheet sheet, css::table::CellAddress cell) : sheet_(std::move(sheet)), cell_(cell) {}
+    CommentObject(Sheet sheet, css::table::CellAddress cell) : OwnedObject(std::move(sheet)), cell_(cell) {}
 
-    void require_alive() const { sheet_.require_alive(); }
     static const MemberTable<CommentObject>& members() {
         using C = CommentObject;
-        static const MemberTable<C> table({
-            property<&C::application>(u"Application"),
+        static const MemberTable<C> table(rows_with({
             property<&C::author>(u"Author"),
             method<&C::remove>(u"Delete"),
-            property<&C::parent>(u"Parent"),
             method<&C::text>(u"Text"),
             property<&C::visible, &C::set_visible>(u"Visible"),
-        });
+        }));
         return table;
     }
 
+    Object parent() const { return make_range(cell()); }
+
   private:
+    RangeAreas cell() const { return range_at(owner(), {cell_.Column, cell_.Row, cell_.Column, cell_.Row}); }
+
     // The office hands out an empty one where there is none.
     Annotation annotation_at_cell() const {
-        const Ref cell{sheet_.sheet->getCellByPosition(cell_.Column, cell_.Row)};
+        const Ref cell{owner().sheet->getCellByPosition(cell_.Column, cell_.Row)};
         return Annotation(Ref{Ref<css::sheet::XSheetAnnotationAnchor>(cell)->getAnnotation()});
     }
 
@@ -50,7 +50,7 @@ class CommentObject final : public CalcObject<CommentObject> {
     Annotation annotation() const {
         const Annotation here = annotation_at_cell();
         if (!Ref<css::text::XTextRange>(here)->getString().isEmpty()) return here;
-        const Annotations all = annotations_of(sheet_);
+        const Annotations all = annotations_of(owner());
         const sal_Int32 count = all->getCount();
         for (sal_Int32 i = 0; i < count; ++i) {
             Annotation candidate(all->getByIndex(i));
@@ -64,64 +64,40 @@ class CommentObject final : public CalcObject<CommentObject> {
     std::u16string author() { return from_uno(annotation()->getAuthor()); }
     bool visible() { return annotation()->getIsVisible(); }
     void set_visible(bool visible) {
-        before_change(sheet_.book);
-        const NoUndo unseen_by_undo(sheet_.book.document);
+        before_change(owner().book);
+        const NoUndo unseen_by_undo(owner().book.document);
         annotation()->setIsVisible(visible);
     }
     void remove() {
-        before_formatting(range_at(sheet_, {cell_.Column, cell_.Row, cell_.Column, cell_.Row}));
-        const Annotations all = annotations_of(sheet_);
+        before_formatting(cell());
+        const Annotations all = annotations_of(owner());
         for (sal_Int32 i = 0; i < all->getCount(); ++i) {
             const css::table::CellAddress at = Annotation(all->getByIndex(i))->getPosition();
             if (at.Column == cell_.Column && at.Row == cell_.Row) return all->removeByIndex(i);
         }
     }
-    Object parent() { return make_range(range_at(sheet_, {cell_.Column, cell_.Row, cell_.Column, cell_.Row})); }
-    Object application() { return make_application(sheet_.book.host); }
 
-    Sheet sheet_;
     css::table::CellAddress cell_;
 };
 
-class CommentsObject final : public CalcObject<CommentsObject> {
+class CommentsObject final : public Collection<CommentsObject, Sheet> {
   public:
     static constexpr std::u16string_view name_of_type = u"Comments";
 
-    explicit CommentsObject(Sheet sheet) : sheet_(std::move(sheet)) {}
+    using Collection::Collection;
 
-    void require_alive() const { sheet_.require_alive(); }
-    static const MemberTable<CommentsObject>& members() {
-        using C = CommentsObject;
-        static const MemberTable<C> table({
-            property<&C::application>(u"Application"),
-            property<&C::count>(u"Count"),
-            property<&C::item>(u"Item", {u"Index"}),
-            property<&C::parent>(u"Parent"),
-        });
-        return table;
-    }
-
-    std::vector<Variant> elements() const {
-        const Annotations all = annotations_of(sheet_);
-        std::vector<Variant> result;
-        const sal_Int32 count = all->getCount();
+    std::int32_t count() const { return annotations_of(owner())->getCount(); }
+    std::vector<css::table::CellAddress> all() const {
+        const Annotations annotations = annotations_of(owner());
+        std::vector<css::table::CellAddress> result;
+        const sal_Int32 count = annotations->getCount();
         result.reserve(static_cast<std::size_t>(count));
         for (sal_Int32 i = 0; i < count; ++i) {
-            result.emplace_back(make_comment(sheet_, Annotation(all->getByIndex(i))->getPosition()));
+            result.push_back(Annotation(annotations->getByIndex(i))->getPosition());
         }
         return result;
     }
-
-  private:
-    std::int32_t count() { return annotations_of(sheet_)->getCount(); }
-    Object item(std::int32_t index) {
-        const std::vector<Variant> all = elements();
-        return element_at(all, index).object();
-    }
-    Object parent() { return make_worksheet(sheet_); }
-    Object application() { return make_application(sheet_.book.host); }
-
-    Sheet sheet_;
+    Object made(const css::table::CellAddress& cell) const { return make_comment(owner(), cell); }
 };
 
 }  // namespace

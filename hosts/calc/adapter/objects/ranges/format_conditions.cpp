@@ -12,8 +12,7 @@
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 
 #include "automation/host_numbers.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/collection.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/service.hpp"
 
@@ -120,23 +119,21 @@ std::u16string as_seen_from(const Book& book, const rtl::OUString& formula, cons
     return u"=" + from_uno(parser->printFormula(tokens, cell));
 }
 
-class FormatCondition final : public CalcObject<FormatCondition> {
+class FormatCondition final : public OwnedObject<FormatCondition, RangeAreas> {
   public:
     static constexpr std::u16string_view name_of_type = u"FormatCondition";
 
-    FormatCondition(RangeAreas cell, Condition condition) : cell_(std::move(cell)), condition_(std::move(condition)) {}
+    FormatCondition(RangeAreas cell, Condition condition)
+        : OwnedObject(std::move(cell)), condition_(std::move(condition)) {}
 
-    void require_alive() const { cell_.sheet.require_alive(); }
     static const MemberTable<FormatCondition>& members() {
         using F = FormatCondition;
-        static const MemberTable<F> table({
-            property<&F::application>(u"Application"),
+        static const MemberTable<F> table(rows_with({
             property<&F::first_formula>(u"Formula1"),
             property<&F::second_formula>(u"Formula2"),
             property<&F::comparison>(u"Operator"),
-            property<&F::parent>(u"Parent"),
             property<&F::type>(u"Type"),
-        });
+        }));
         return table;
     }
 
@@ -159,58 +156,27 @@ class FormatCondition final : public CalcObject<FormatCondition> {
     // A constant comes with the equals sign, too.
     std::u16string formula(const char* name) const {
         const auto text = get_property<rtl::OUString>(condition_.entry, name);
-        const Rectangle at = cell_.rectangle();
-        const css::table::CellAddress cell{static_cast<sal_Int16>(cell_.sheet.index()), at.left, at.top};
-        const Book& book = cell_.sheet.book;
+        const Rectangle at = owner().rectangle();
+        const css::table::CellAddress cell{static_cast<sal_Int16>(owner().sheet.index()), at.left, at.top};
+        const Book& book = owner().sheet.book;
         return book.host->translator().to_excel(as_seen_from(book, text, condition_.written_for, cell));
     }
 
-    Object parent() { return make_range(cell_); }
-    Object application() { return make_application(cell_.sheet.book.host); }
-
-    RangeAreas cell_;
     Condition condition_;
 };
 
 // Those of the first cell of a range.
-class FormatConditions final : public CalcObject<FormatConditions> {
+class FormatConditions final : public Collection<FormatConditions, RangeAreas> {
   public:
     static constexpr std::u16string_view name_of_type = u"FormatConditions";
 
-    explicit FormatConditions(RangeAreas areas) : areas_(std::move(areas)) {}
+    using Collection::Collection;
 
-    void require_alive() const { areas_.sheet.require_alive(); }
-    static const MemberTable<FormatConditions>& members() {
-        using F = FormatConditions;
-        static const MemberTable<F> table({
-            property<&F::application>(u"Application"),
-            property<&F::count>(u"Count"),
-            property<&F::item>(u"Item", {u"Index"}),
-            property<&F::parent>(u"Parent"),
-        });
-        return table;
-    }
-
-    std::vector<Variant> elements() const {
-        std::vector<Variant> result;
-        for (const Condition& condition : all()) result.emplace_back(make_object<FormatCondition>(areas_, condition));
-        return result;
-    }
-
-  private:
     std::vector<Condition> all() const {
-        const Rectangle area = areas_.rectangle();
-        return conditions_of(areas_.sheet, {area.left, area.top, area.left, area.top});
+        const Rectangle area = owner().rectangle();
+        return conditions_of(owner().sheet, {area.left, area.top, area.left, area.top});
     }
-    std::int32_t count() { return static_cast<std::int32_t>(all().size()); }
-    Object item(std::int32_t index) {
-        const std::vector<Condition> found = all();
-        return make_object<FormatCondition>(areas_, element_at(found, index));
-    }
-    Object parent() { return make_range(areas_); }
-    Object application() { return make_application(areas_.sheet.book.host); }
-
-    RangeAreas areas_;
+    Object made(const Condition& condition) const { return make_object<FormatCondition>(owner(), condition); }
 };
 
 }  // namespace

@@ -7,28 +7,24 @@
 #include "hosts/calc/adapter/ground/cell_query.hpp"
 #include "hosts/calc/adapter/ground/undo_step.hpp"
 #include "hosts/calc/adapter/ground/write_guard.hpp"
-#include "hosts/calc/adapter/objects/calc_object.hpp"
-#include "hosts/calc/adapter/objects/objects.hpp"
+#include "hosts/calc/adapter/objects/owned_object.hpp"
 #include "hosts/calc/uno/property.hpp"
 
 namespace qor::calc {
 namespace {
 
 // The links in a range: those in the text of cells. Formulas that make links are none of them, as in Excel.
-class HyperlinksObject final : public CalcObject<HyperlinksObject> {
+class HyperlinksObject final : public OwnedObject<HyperlinksObject, RangeAreas> {
   public:
     static constexpr std::u16string_view name_of_type = u"Hyperlinks";
 
-    explicit HyperlinksObject(RangeAreas areas) : areas_(std::move(areas)) {}
+    using OwnedObject::OwnedObject;
 
-    void require_alive() const { areas_.sheet.require_alive(); }
     static const MemberTable<HyperlinksObject>& members() {
-        static const MemberTable<HyperlinksObject> table({
-            property<&HyperlinksObject::application>(u"Application"),
+        static const MemberTable<HyperlinksObject> table(rows_with({
             property<&HyperlinksObject::count>(u"Count"),
             method<&HyperlinksObject::remove>(u"Delete"),
-            property<&HyperlinksObject::parent>(u"Parent"),
-        });
+        }));
         return table;
     }
 
@@ -38,7 +34,7 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
 
     template <class Visit>
     void for_each_cell(Visit visit) const {
-        for (const Cells& cells : areas_.areas) {
+        for (const Cells& cells : owner().areas) {
             // Only texts of several parts can hold a link, which spares asking all the plain ones.
             const CellPlaces texts = content_places(cells, css::sheet::CellFlags::FORMATTED);
             if (texts.empty()) continue;
@@ -84,16 +80,11 @@ class HyperlinksObject final : public CalcObject<HyperlinksObject> {
     // Their texts stay.
     void remove() {
         const UndoStep step(u"Delete Hyperlinks");
-        before_formatting(areas_);
+        before_formatting(owner());
         for_each_cell([](const Cell& cell) {
             for (const Link& link : links_in(cell)) link->setString(link->getString());
         });
     }
-
-    Object parent() { return make_range(areas_); }
-    Object application() { return make_application(areas_.sheet.book.host); }
-
-    RangeAreas areas_;
 };
 
 }  // namespace

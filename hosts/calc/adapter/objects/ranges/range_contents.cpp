@@ -104,8 +104,7 @@ Object RangeObject::hyperlinks() {
 }
 
 Object RangeObject::format_conditions(const Variant& index) {
-    Object all = make_format_conditions(areas_);
-    return index.is_missing() ? all : Object(all.get(names::Item, index));
+    return item_or_all(make_format_conditions(areas_), index);
 }
 
 bool RangeObject::check_spelling() {

@@ -215,8 +215,7 @@ Object RangeObject::interior() {
 }
 
 Variant RangeObject::borders(const Variant& index) {
-    const Object all = make_borders(areas_);
-    return index.is_missing() ? Variant(all) : all.get(names::Item, index);
+    return item_or_all(make_borders(areas_), index);
 }
 
 }  // namespace qor::calc

@@ -82,8 +82,7 @@ Object RangeObject::cells(const Variant& row, const Variant& column) {
 
 // Rows and columns are those of the first area.
 Object RangeObject::strips(RangeUnit unit, const Variant& index) {
-    Object range = make_range({areas_.sheet, {areas_.areas.front()}, unit});
-    return index.is_missing() ? range : Object(range.get(names::Item, index));
+    return item_or_all(make_range({areas_.sheet, {areas_.areas.front()}, unit}), index);
 }
 
 Object RangeObject::rows(const Variant& index) {
@@ -106,8 +105,7 @@ Object RangeObject::range(const Variant& first, const Variant& last) {
 }
 
 Object RangeObject::part_areas(const Variant& index) {
-    Object all = make_areas(areas_);
-    return index.is_missing() ? all : Object(all.get(names::Item, index));
+    return item_or_all(make_areas(areas_), index);
 }
 
 Object RangeObject::entire_row() {
