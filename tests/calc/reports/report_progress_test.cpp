@@ -1,11 +1,11 @@
 #include "reports/cell_columns.hpp"
+#include "reports/reports.hpp"
 #include "reports/workbook_summary.hpp"
 #include "reports/worksheet_summary.hpp"
 #include "runtime/clock.hpp"
 #include "tests/calc/support/report_run.hpp"
 #include "tests/fakes/fake_screen.hpp"
 #include "tests/fakes/memory_settings.hpp"
-#include "tree/ctlTree.hpp"
 
 namespace qor::calc::tests {
 namespace {
@@ -42,7 +42,7 @@ struct ProgressRun {
 
     // Each look at the clock finds it later by `step`.
     template <class Columns>
-    Steps hear(void (ctlTree::*report)(std::span<const std::u16string>), const Columns& columns,
+    Steps hear(void (*report)(ctlTree&, std::span<const std::u16string>), const Columns& columns,
                std::chrono::milliseconds step) {
         std::chrono::steady_clock::time_point time;
         running_clock() = [&] { return time += step; };
@@ -52,7 +52,7 @@ struct ProgressRun {
         form.ctlTreeView.LoadExcel();
         TreeView& tree = form.ctlTreeView.treQOR;
         for (std::size_t index = 1; index <= tree.count(); ++index) tree.node(index).set_image(ctlTree::checked);
-        (form.ctlTreeView.*report)(ReportFields(columns).checked_headings());
+        report(form.ctlTreeView, ReportFields(columns).checked_headings());
         run.application.get(names::ActiveWorkbook).call(names::Close, false);
         return steps;
     }
@@ -64,18 +64,18 @@ TEST_CASE("a report of cells tells how far it is as often as a user can see, and
     ProgressRun run;
     const Steps once{{6000, 6000}};
     const Steps of_each_block{{1024, 6000}, {2048, 6000}, {3072, 6000}, {4096, 6000}, {5120, 6000}, {6000, 6000}};
-    CHECK(run.hear(&ctlTree::CellInfo, cell_information_columns(), 0ms) == once);
-    CHECK(run.hear(&ctlTree::CellInfo, cell_information_columns(), 60ms) == of_each_block);
-    CHECK(run.hear(&ctlTree::DtRev, date_review_columns(), 0ms) == once);
-    CHECK(run.hear(&ctlTree::DtRev, date_review_columns(), 60ms) == of_each_block);
+    CHECK(run.hear(CellInfo, cell_information_columns(), 0ms) == once);
+    CHECK(run.hear(CellInfo, cell_information_columns(), 60ms) == of_each_block);
+    CHECK(run.hear(DtRev, date_review_columns(), 0ms) == once);
+    CHECK(run.hear(DtRev, date_review_columns(), 60ms) == of_each_block);
 }
 
 TEST_CASE("a summary tells of each of its records") {
     ProgressRun run;
     run.book.get(names::Worksheets).call(names::Add);
-    CHECK(run.hear(&ctlTree::WkSum, worksheet_summary_columns(), 0ms) == Steps{{1, 1}, {1, 6000}});
+    CHECK(run.hear(WkSum, worksheet_summary_columns(), 0ms) == Steps{{1, 1}, {1, 6000}});
     // The root, the window and two sheets.
-    CHECK(run.hear(&ctlTree::WBSum, workbook_summary_columns(), 0ms) == Steps{{1, 4}});
+    CHECK(run.hear(WBSum, workbook_summary_columns(), 0ms) == Steps{{1, 4}});
 }
 
 }  // namespace qor::calc::tests
