@@ -20,6 +20,7 @@
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
 #include "platform/text.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace {
 
@@ -68,7 +69,8 @@ std::int32_t run_batch(calc::PrivateOffice& office, const fs::path& report, std:
 }  // namespace
 
 int main(int argc, char** argv) {
-    const fs::path report = fs::temp_directory_path() / ("qorplus-batch-report-" + std::to_string(::getpid()) + ".txt");
+    const qor::test::TemporaryFolder folder;
+    const fs::path report = folder.path / "report.txt";
     int exit_code = failed_without_report;
     try {
         const std::vector<fs::path> components{QOR_BATCH_COMPONENTS, QOR_EXTENSION_COMPONENTS};
@@ -86,7 +88,5 @@ int main(int argc, char** argv) {
         print(report);
         std::cout << error.what() << std::endl;
     }
-    std::error_code ignored;
-    fs::remove(report, ignored);
     return exit_code;
 }

@@ -8,7 +8,7 @@
 #include "hosts/calc/bars/module_ui.hpp"
 #include "tests/calc_window/toolbar_window.hpp"
 #include "tests/cli/program_run.hpp"
-#include "tests/cli/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::calc::tests {
 
@@ -21,10 +21,10 @@ class UsersHome {
   public:
     UsersHome();
 
-    const std::filesystem::path& path() const { return folder_.path(); }
+    const std::filesystem::path& path() const { return folder_.path; }
     // The workbook that Calc is started with, a copy of the example.
     std::filesystem::path model() const { return path() / "model.xlsx"; }
-    std::string pipe() const { return folder_.path().filename(); }
+    std::string pipe() const { return folder_.path.filename(); }
     std::filesystem::path settings_file() const;
     // The text of the settings; empty before there are any.
     std::string settings() const;
@@ -41,7 +41,7 @@ class UsersHome {
     std::filesystem::path data() const;
 
   private:
-    cli::TemporaryFolder folder_;
+    test::TemporaryFolder folder_;
 };
 
 // Calc as `qorplus calc` shows it with the model, in front of its user, when its menu and its toolbars have come.

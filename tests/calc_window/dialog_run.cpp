@@ -4,7 +4,6 @@
 #include <cstdlib>
 
 #include "core/CCom.hpp"
-#include "ground/MMain.hpp"
 #include "hosts/calc/companion/loaded_screen.hpp"
 #include "tests/calc/support/office_loop.hpp"
 #include "tests/window/hand.hpp"
@@ -35,9 +34,7 @@ wxPoint in_row(User& user, int row, int level, int twips) {
 
 }  // namespace
 
-DialogRun::DialogRun() {
-    set_environment({windows(), settings});
-    com = make_object<CCom>();
+DialogRun::DialogRun() : in_place({windows(), settings}), com(make_object<CCom>()) {
     calc.application.get(names::ActiveSheet).get(names::Range, u"A1").put(names::Value, 12.0);
     let_office_work(500ms);
 }

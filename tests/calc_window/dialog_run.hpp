@@ -2,6 +2,7 @@
 
 #include "platform/ini_settings_store.hpp"
 #include "tests/calc/support/fixture.hpp"
+#include "tests/fakes/in_place.hpp"
 #include "tests/wx/user.hpp"
 
 namespace qor::calc::tests {
@@ -10,6 +11,7 @@ namespace qor::calc::tests {
 struct DialogRun {
     Calc calc;
     IniSettingsStore settings{calc.folder() / "settings.ini"};
+    fakes::InPlace in_place;
     Object com;
     Object book = calc.add_book();
 

@@ -1,6 +1,5 @@
 #include <thread>
 
-#include "ground/MMain.hpp"
 #include "hosts/calc/adapter/objects/application/application.hpp"
 #include "hosts/calc/adapter/user/office_user.hpp"
 #include "platform/ini_settings_store.hpp"
@@ -8,6 +7,7 @@
 #include "services/ctlCellRef.hpp"
 #include "tests/calc/support/fixture.hpp"
 #include "tests/calc/support/office_loop.hpp"
+#include "tests/fakes/in_place.hpp"
 #include "tests/window/hand.hpp"
 #include "tests/wx/user.hpp"
 #include "ui/button.hpp"
@@ -44,14 +44,10 @@ struct Picking {
     Object book = calc.add_book();
     WxScreen screen{{}, wx::picking_layouts()};
     IniSettingsStore settings{calc.folder() / "settings.ini"};
+    fakes::InPlace in_place{{screen, settings}, make_application(office_context(), office_user(office_context()))};
     frmPick form{screen};
 
-    Picking() {
-        set_environment({screen, settings});
-        gExcel = make_application(office_context(), office_user(office_context()));
-        let_office_work(500ms);
-    }
-    ~Picking() { gExcel = Object(); }
+    Picking() { let_office_work(500ms); }
 
     std::u16string selected() const {
         return *calc.application.get(names::Selection).get(names::Address).get_if<std::u16string>();

@@ -6,7 +6,7 @@
 #include "functions/registry.hpp"
 #include "platform/text.hpp"
 #include "tests/cli/program_run.hpp"
-#include "tests/cli/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::cli {
 namespace {
@@ -88,11 +88,11 @@ TEST_CASE("a request that is wrong is told in one line") {
 }
 
 TEST_CASE("a script that is no JSON is told before LibreOffice is asked") {
-    const TemporaryFolder folder;
+    const test::TemporaryFolder folder;
     for (const auto& [content, told] : {std::pair{"{\"steps\": [", "is no JSON"}, std::pair{"[]", "is no JSON object"},
                                         std::pair{"", "is no JSON"}, std::pair{"\xff\xfe", "is no JSON"}}) {
-        std::ofstream(folder.path() / "script.json") << content;
-        check_refusal(run_program({"run", "script.json"}, folder.path(), {"QORPLUS_LIBREOFFICE=/nowhere"}), 2, told);
+        std::ofstream(folder.path / "script.json") << content;
+        check_refusal(run_program({"run", "script.json"}, folder.path, {"QORPLUS_LIBREOFFICE=/nowhere"}), 2, told);
     }
 }
 
@@ -165,9 +165,9 @@ TEST_CASE("every command has help with examples") {
 TEST_CASE("without LibreOffice the functions work and the rest says what is missing") {
     const std::vector<std::string> nowhere{"QORPLUS_LIBREOFFICE=/nowhere"};
     CHECK(run_program({"call", "ARA", "1", "2"}, "/", nowhere).output == "0.5\n");
-    const TemporaryFolder folder;
-    std::ofstream(folder.path() / "script.json") << "{}";
-    check_refusal(run_program({"run", "script.json"}, folder.path(), nowhere), 3, "no LibreOffice in /nowhere");
+    const test::TemporaryFolder folder;
+    std::ofstream(folder.path / "script.json") << "{}";
+    check_refusal(run_program({"run", "script.json"}, folder.path, nowhere), 3, "no LibreOffice in /nowhere");
     check_refusal(run_program({"install"}, "/", nowhere), 3, "no LibreOffice in /nowhere");
 }
 

@@ -12,7 +12,7 @@
 #include "platform/text.hpp"
 #include "tests/calc_document/calc_document.hpp"
 #include "tests/cli/program_run.hpp"
-#include "tests/cli/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::cli {
 namespace {
@@ -22,17 +22,17 @@ class OtherHome {
   public:
     OtherHome() {
         if (const char* home = std::getenv("HOME")) before_ = home;
-        ::setenv("HOME", folder_.path().c_str(), 1);
+        ::setenv("HOME", folder_.path.c_str(), 1);
         ::unsetenv("XDG_CONFIG_HOME");
     }
     OtherHome(const OtherHome&) = delete;
     OtherHome& operator=(const OtherHome&) = delete;
     ~OtherHome() { ::setenv("HOME", before_.c_str(), 1); }
 
-    const std::filesystem::path& path() const { return folder_.path(); }
+    const std::filesystem::path& path() const { return folder_.path; }
 
   private:
-    TemporaryFolder folder_;
+    test::TemporaryFolder folder_;
     std::string before_ = "/";
 };
 

@@ -10,9 +10,9 @@
 #include <array>
 #include <chrono>
 #include <csignal>
-#include <fstream>
-#include <iterator>
 #include <thread>
+
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::cli {
 namespace {
@@ -26,11 +26,6 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
     for (std::string& text : texts) result.push_back(text.data());
     result.push_back(nullptr);
     return result;
-}
-
-std::string content_of(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 std::string read_all(int descriptor) {
@@ -101,8 +96,8 @@ std::vector<pid_t> ProgramRun::processes(const std::string& name) const {
     for (const auto& entry : fs::directory_iterator("/proc")) {
         const std::string number = entry.path().filename();
         if (!std::ranges::all_of(number, [](unsigned char c) { return std::isdigit(c); })) continue;
-        if (!name.empty() && content_of(entry.path() / "comm") != name + "\n") continue;
-        const std::string environment = content_of(entry.path() / "environ");  // empty for one that has ended
+        if (!name.empty() && test::content_of(entry.path() / "comm") != name + "\n") continue;
+        const std::string environment = test::content_of(entry.path() / "environ");  // empty for one that has ended
         if (environment.find(mark_ + '\0') != environment.npos) found.push_back(std::stoi(number));
     }
     return found;

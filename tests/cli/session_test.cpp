@@ -15,7 +15,7 @@
 #include "platform/text.hpp"
 #include "tests/cli/calc_fixture.hpp"
 #include "tests/cli/program_run.hpp"
-#include "tests/cli/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::cli {
 namespace {
@@ -28,9 +28,9 @@ class Workplace {
   public:
     Workplace() { fs::copy_file(QOR_FOREIGN_WORKBOOK, path() / "book.xlsx"); }
 
-    const fs::path& path() const { return folder_.path(); }
-    void write_script(const json& script) const { std::ofstream(scripts_.path() / "script.json") << script; }
-    std::vector<std::string> command() const { return {"run", scripts_.path() / "script.json"}; }
+    const fs::path& path() const { return folder_.path; }
+    void write_script(const json& script) const { std::ofstream(scripts_.path / "script.json") << script; }
+    std::vector<std::string> command() const { return {"run", scripts_.path / "script.json"}; }
 
     Outcome run(const json& steps, json others = json::object()) const {
         others["steps"] = steps;
@@ -50,8 +50,8 @@ class Workplace {
     }
 
   private:
-    TemporaryFolder folder_;
-    TemporaryFolder scripts_;
+    test::TemporaryFolder folder_;
+    test::TemporaryFolder scripts_;
 };
 
 // Plays a script in the office of these tests, as the program's own office does.
@@ -61,9 +61,9 @@ json play_in_office(const json& script, const Workplace& place) {
     const auto named_text = [](const char* name, const std::string& text) {
         return beans::NamedValue(rtl::OUString::createFromAscii(name), uno::Any(calc::to_uno(from_utf8(text))));
     };
-    const TemporaryFolder temporary;
+    const test::TemporaryFolder temporary;
     const std::array arguments{named_text("Script", script.dump()), named_text("Folder", place.path()),
-                               named_text("TemporaryFolder", temporary.path()), named_text("HiddenName", ".writing")};
+                               named_text("TemporaryFolder", temporary.path), named_text("HiddenName", ".writing")};
     const uno::Reference<com::sun::star::task::XJob> session(
         office().context()->getServiceManager()->createInstanceWithContext("com.ombrel.qorplus.Session",
                                                                            office().context()),

@@ -10,22 +10,13 @@
 #include "ground/product.hpp"
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
+#include "tests/fakes/fake_object.hpp"
 
 using namespace qor;
 
 namespace {
 
 using Lines = std::vector<std::string>;
-
-// An application that knows its version only.
-class FakeApplication final : public Dispatch {
-  public:
-    Variant invoke(const MemberName& name, Access, Arguments) override {
-        if (name == names::Version) return Variant(u"7.4");
-        throw Error(ErrorNumber::no_such_member);
-    }
-    std::u16string_view type_name() const noexcept override { return u"Application"; }
-};
 
 // An automation object that writes down what is called, such as "QScrollableArea app Book1 OPEN".
 class RecordingCom final : public Dispatch {
@@ -52,12 +43,14 @@ class RecordingCom final : public Dispatch {
 };
 
 struct Fixture {
+    fakes::HostLog host_log;
     RecordingCom* com = new RecordingCom;
     Object com_object{com};
     Lines steps;
     std::vector<Error> reported;
     Companion companion{com_object,
-                        {.application = make_object<FakeApplication>(),
+                        {.application = fakes::make_fake(host_log, u"Application",
+                                                         [](auto& fake) { fake.holds(names::Version, u"7.4"); }),
                          .undo_step =
                              [this](std::u16string_view title, const std::function<void()>& command) {
                                  steps.push_back(to_utf8(title));

@@ -2,12 +2,8 @@
 
 #include <doctest/doctest.h>
 
-#include "core/CCom.hpp"
-#include "ground/MMain.hpp"
-#include "tests/fakes/fake_screen.hpp"
-#include "tests/fakes/memory_settings.hpp"
-#include "ui/button.hpp"
-#include "ui/label.hpp"
+#include "tests/fakes/command_host.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 
@@ -15,7 +11,7 @@ namespace {
 
 class RecordingShell final : public Shell {
   public:
-    std::vector<std::u16string> opened;
+    fakes::Lines opened;
     bool fails = false;
 
     void open(std::u16string_view target) override {
@@ -24,24 +20,12 @@ class RecordingShell final : public Shell {
     }
 };
 
-struct Web {
-    fakes::FakeScreen screen;
-    fakes::MemorySettings settings;
+struct Web : fakes::CommandHost {
     RecordingShell shell;
-    Object com = (set_environment({screen, settings, no_faces(), shell}), make_object<CCom>());
-
-    template <class... Arguments>
-    std::u16string source_of(const MemberName& member, Arguments... arguments) {
-        try {
-            com.call(member, arguments...);
-        } catch (const Error& error) {
-            return error.source();
-        }
-        return u"nothing was raised";
-    }
+    fakes::InPlace with_shell{{screen, settings, no_faces(), shell}};
 };
 
-const MemberName UTOpenWWW(u"UTOpenWWW"), UTSendMail(u"UTSendMail"), QAbout(u"QAbout");
+const MemberName UTOpenWWW(u"UTOpenWWW"), UTSendMail(u"UTSendMail");
 
 std::u16string mail_to(std::u16string_view recipient) {
     return MailToURL(recipient, u"", u"", u"", u"");
@@ -79,39 +63,13 @@ TEST_CASE_FIXTURE(Web, "pages and mails go to the shell as they are told") {
     com.call(UTSendMail, u"joe");
     com.call(UTSendMail, u"joe", Missing{}, Missing{}, u"abc", u"de");
     com.call(UTSendMail, u"joe", named(MemberName(u"sBody"), u"de"));
-    CHECK(shell.opened == std::vector<std::u16string>{u"https://example.org/a b", u"mailto:joe", u"mailto:joe?abc&de",
-                                                      u"mailto:joe?de"});
+    CHECK(shell.opened ==
+          fakes::Lines{u"https://example.org/a b", u"mailto:joe", u"mailto:joe?abc&de", u"mailto:joe?de"});
     CHECK(attempt([&] { com.call(UTSendMail); }) == 449);
 }
 
 TEST_CASE_FIXTURE(Web, "an error of the shell leaves a trace of the procedures") {
     shell.fails = true;
-    CHECK(source_of(UTOpenWWW, u"x") == u"UTOpenWWW\rOpenWWWURL\rShell");
-    CHECK(source_of(UTSendMail, u"x") == u"UTSendMail\rSendMail\rShell");
-}
-
-TEST_CASE_FIXTURE(Web, "the About box tells title, version and legal notice") {
-    std::vector<std::u16string> seen;
-    screen.while_modal = [&](Form& form) {
-        seen.emplace_back(form.name());
-        seen.emplace_back(form.caption());
-        for (Control* control : form.controls()) {
-            if (const auto* label = dynamic_cast<Label*>(control))
-                seen.push_back(label->name() + u": " + label->text());
-        }
-        auto* ok = dynamic_cast<Button*>(form.controls().back());
-        REQUIRE(ok);
-        seen.push_back(ok->name() + u": " + ok->caption());
-        ok->press();
-        CHECK_FALSE(form.loaded());
-        CHECK(form.caption().empty());
-    };
-    com.call(QAbout);
-    REQUIRE(seen.size() == 6);
-    CHECK(seen[0] == u"frmAbout");
-    CHECK(seen[1] == u"QOR Plus (Excel Add-in)");
-    CHECK(seen[2] == u"lblTitle: QOR Plus (Excel Add-in)");
-    CHECK(seen[3] == u"lblVersion: Version: 2.6  Build (5)");
-    CHECK(seen[4].starts_with(u"lblDisclaimer: Copyright (c) 2026 "));
-    CHECK(seen[5] == u"cmdOK: OK");
+    CHECK(test::error_from([&] { com.call(UTOpenWWW, u"x"); }).source() == u"UTOpenWWW\rOpenWWWURL\rShell");
+    CHECK(test::error_from([&] { com.call(UTSendMail, u"x"); }).source() == u"UTSendMail\rSendMail\rShell");
 }

@@ -9,10 +9,13 @@
 #include "tests/excel/script_host.hpp"
 #include "tests/excel/server.hpp"
 #include "tests/excel/tester.hpp"
-#include "tests/fakes/fake_object.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/fakes/fake_host.hpp"
+#include "tests/support/temporary_folder.hpp"
+#include "tests/support/failing_object.hpp"
 
 using namespace qor;
+using fakes::FakeObject;
+using fakes::Values;
 using test::Language;
 using test::Server;
 using test::Tester;
@@ -45,50 +48,46 @@ int run(Language language, std::u16string_view text, const Object& add_in, std::
     return tester->checks();
 }
 
-// The application of a host with two workbooks that want saving, which counts what is done to it.
-struct Host {
-    fakes::HostLog log;
+// A host with two workbooks that want saving, which counts what is done to it.
+struct Host : fakes::FakeHost {
     std::int32_t saved = 0;
     std::int32_t registered = 0;
     Variant help_file;
-    Object application;
+    std::shared_ptr<support::AccessFailure> refusal = std::make_shared<support::AccessFailure>();
+    Object refusing = support::failing_object(host, refusal);  // the application, which may be told to refuse a call
 
     Object workbook() {
-        return fakes::make_fake(log, u"Workbook", [&](fakes::FakeObject& fake) {
+        return make(u"Workbook", [&](FakeObject& fake) {
             fake.holds(names::FileFormat, -4143)
                 .holds(names::Path, u"C:\\books")
                 .holds(names::Saved, false)
-                .answers(names::Save, [&](Access, std::span<Variant>) -> Variant {
+                .answers(names::Save, [&](Access, Values) -> Variant {
                     ++saved;
                     return {};
                 });
         });
     }
     Host() {
-        const Object books = fakes::make_collection(log, u"Workbooks", {workbook(), workbook()});
-        application = fakes::make_fake(log, u"Application", [&](fakes::FakeObject& fake) {
-            fake.holds(names::Workbooks, books)
-                .holds(names::ActiveWorkbook, workbook())
-                .answers(names::Help,
-                         [&](Access, std::span<Variant> arguments) -> Variant {
-                             help_file = arguments.front();
-                             return {};
-                         })
-                .answers(HelpFile, [&](Access, std::span<Variant>) { return help_file; })
-                .answers(names::MacroOptions,
-                         [&](Access, std::span<Variant> arguments) -> Variant {
-                             if (arguments.size() == 5) ++registered;
-                             return {};
-                         })
-                .answers(Registered, [&](Access, std::span<Variant>) -> Variant { return registered; })
-                .answers(names::Saved, [&](Access, std::span<Variant>) -> Variant { return saved; })
-                .answers(Refuse, [&](Access, std::span<Variant> arguments) -> Variant {
-                    // Counted from the next call on.
-                    log.failing_call = static_cast<std::size_t>(to_long(arguments.front()));
-                    log.calls = 0;
-                    return {};
-                });
-        });
+        application.holds(names::Workbooks, collection(u"Workbooks", {workbook(), workbook()}))
+            .holds(names::ActiveWorkbook, workbook())
+            .answers(names::Help,
+                     [&](Access, Values arguments) -> Variant {
+                         help_file = arguments.front();
+                         return {};
+                     })
+            .answers(HelpFile, [&](Access, Values) { return help_file; })
+            .answers(names::MacroOptions,
+                     [&](Access, Values arguments) -> Variant {
+                         if (arguments.size() == 5) ++registered;
+                         return {};
+                     })
+            .answers(Registered, [&](Access, Values) -> Variant { return registered; })
+            .answers(names::Saved, [&](Access, Values) -> Variant { return saved; })
+            .answers(Refuse, [&](Access, Values arguments) -> Variant {
+                // Counted from the next call on.
+                *refusal = {0, static_cast<std::uint64_t>(to_long(arguments.front()))};
+                return {};
+            });
     }
 };
 
@@ -142,7 +141,7 @@ TEST_CASE_FIXTURE(Server, "the 207 registered names are members, but for the fou
 
 TEST_CASE_FIXTURE(Server, "a script hands the host's application on to commands") {
     Host host;
-    CHECK(run(Language::visual_basic, own_script("application.vbs"), create(), {{u"Application", host.application}}) ==
+    CHECK(run(Language::visual_basic, own_script("application.vbs"), create(), {{u"Application", host.refusing}}) ==
           10);
 }
 
@@ -150,20 +149,25 @@ TEST_CASE_FIXTURE(Server, "whichever call the host refuses, the command raises i
     Host host;
     const Object add_in = create();
     const MemberName UTSavAll{u"UTSavAll"};
-    add_in.call(UTSavAll, host.application);
-    const std::size_t calls = host.log.calls;
-    CHECK(calls == 11);
-    for (std::size_t failing = 1; failing <= calls; ++failing) {
-        host.log.calls = 0;
-        host.log.failing_call = failing;
+    std::u16string source;
+    const auto save_all = [&](const Object& application) {
         try {
-            add_in.call(UTSavAll, host.application);
-            FAIL("call ", failing, " was refused and nothing was raised");
+            add_in.call(UTSavAll, application);
         } catch (const Error& error) {
-            CHECK(error.number() == 1004);
-            CHECK((error.source().substr(0, 9) == u"UTSavAll\r"));
+            source = error.source();
+            throw;
         }
-    }
+    };
+    std::uint64_t raised = 0;
+    const auto check = [&](std::int32_t error) {
+        if (error == 0) return;
+        ++raised;
+        CHECK(error == 1004);
+        CHECK((source.substr(0, 9) == u"UTSavAll\r"));
+    };
+    const std::uint64_t failures = support::fail_each_access([&] { return host.host; }, save_all, check);
+    CHECK(failures == 11);
+    CHECK(raised == failures);
 }
 
 TEST_CASE_FIXTURE(Server, "cscript runs plain scripts") {

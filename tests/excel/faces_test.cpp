@@ -6,7 +6,7 @@
 
 #include "hosts/excel/com/ole.hpp"
 #include "hosts/excel/screen/face_bitmaps.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 

@@ -7,7 +7,7 @@
 #include "hosts/excel/com/served_object.hpp"
 #include "runtime/conversion.hpp"
 #include "tests/fakes/fake_object.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using excel::ComPointer;

@@ -7,7 +7,7 @@
 #include "hosts/excel/com/ole_variant.hpp"
 #include "runtime/conversion.hpp"
 #include "tests/excel/server.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using excel::ComPointer;

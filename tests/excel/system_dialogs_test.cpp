@@ -4,10 +4,10 @@
 #include <functional>
 #include <thread>
 
-#include "ground/MMain.hpp"
 #include "hosts/excel/com/ole.hpp"
 #include "hosts/excel/screen/system_screen.hpp"
 #include "platform/windows/system_text.hpp"
+#include "tests/fakes/fake_host.hpp"
 // After the system's headers.
 #include <shlobj.h>
 
@@ -15,29 +15,15 @@ using namespace qor;
 
 namespace {
 
-// A host's window, and the application that tells of it.
-class HostApplication final : public Dispatch {
-  public:
-    explicit HostApplication(HWND window) : window_(window) {}
-    Variant invoke(const MemberName& name, Access, Arguments) override {
-        if (name == MemberName(u"Hwnd")) return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(window_));
-        throw Error(ErrorNumber::no_such_member);
-    }
-    std::u16string_view type_name() const noexcept override { return u"Application"; }
-
-  private:
-    HWND window_;
-};
-
-class Host {
+// A host with a window, whose application tells of it.
+class Host : public fakes::FakeHost {
   public:
     Host() {
         REQUIRE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
         REQUIRE(window_);
-        gExcel = make_object<HostApplication>(window_);
+        application.holds(MemberName(u"Hwnd"), static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(window_)));
+        begin_command();
     }
-    Host(const Host&) = delete;
-    Host& operator=(const Host&) = delete;
     ~Host() {
         gExcel = Object();
         DestroyWindow(window_);

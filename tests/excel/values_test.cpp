@@ -5,7 +5,7 @@
 #include "hosts/excel/com/ole_text.hpp"
 #include "hosts/excel/com/ole_variant.hpp"
 #include "runtime/conversion.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using excel::from_ole;

@@ -34,9 +34,9 @@ struct FakeBar {
 };
 
 struct FakeBars {
-    HostLog log;
-    std::list<FakeBar> bars;
-    std::u16string clipboard;  // the face that was put there last
+    HostLog& log;
+    std::list<FakeBar> bars = {};
+    std::u16string clipboard = {};  // the face that was put there last
 
     FakeBar* find(std::u16string_view name) {
         const auto place = std::ranges::find(bars, name, &FakeBar::name);
@@ -162,7 +162,7 @@ inline Object make_command_bars(FakeBars& bars) {
         std::vector<Object> all;
         for (FakeBar& bar : bars.bars) all.push_back(make_object<FakeBarObject>(bars, bar));
         fake.contains(all);
-        fake.answers(names::Add, [&bars](Access, std::span<Variant> arguments) -> Variant {
+        fake.answers(names::Add, [&bars](Access, Values arguments) -> Variant {
             FakeBar& bar = bars.bars.emplace_back();
             bar.name = to_text(arguments[0]);
             bar.temporary = to_boolean(arguments[1]);
@@ -171,7 +171,7 @@ inline Object make_command_bars(FakeBars& bars) {
     });
 }
 
-inline Variant command_bars_of(FakeBars& bars, std::span<Variant> index) {
+inline Variant command_bars_of(FakeBars& bars, Values index) {
     if (index.empty()) return make_command_bars(bars);
     if (const auto* number = index[0].get_if<std::int32_t>())
         return make_object<FakeBarObject>(bars, *std::next(bars.bars.begin(), *number - 1));

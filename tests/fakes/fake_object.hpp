@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
@@ -11,23 +10,25 @@
 // Objects that answer as a host would, for what a real host can't be brought to: refusing one certain call.
 namespace qor::fakes {
 
+using Lines = std::vector<std::u16string>;
+using Values = std::span<Variant>;
+
 // What all fake objects of one host share.
 struct HostLog {
     std::size_t calls = 0;
-    std::size_t failing_call = 0;  // that call raises 1004, counted from 1; 0: none
-    std::function<bool(std::u16string_view type, std::u16string_view member, Access access)> refuses;
+    std::function<bool(std::u16string_view type, std::u16string_view member, Access access)> refuses;  // raises 1004
 
     void enter(std::u16string_view type, std::u16string_view member, Access access) {
         ++calls;
-        if (calls == failing_call || (refuses && refuses(type, member, access))) {
-            throw Error(ErrorNumber::host_refused);
-        }
+        if (refuses && refuses(type, member, access)) throw Error(ErrorNumber::host_refused);
     }
 };
 
 class FakeObject final : public Dispatch {
   public:
-    using Answer = std::function<Variant(Access, std::span<Variant>)>;
+    // What a member does. Its arguments are the positional ones and, behind them, those with names.
+    using Answer = std::function<Variant(Access, Values)>;
+    using Fill = std::function<void(FakeObject&)>;
 
     FakeObject(HostLog& log, std::u16string type) : log_(log), type_(std::move(type)) {}
 
@@ -37,7 +38,7 @@ class FakeObject final : public Dispatch {
     }
     // A property that keeps what was last put into it.
     FakeObject& holds(const MemberName& name, Variant value) {
-        return answers(name, [held = std::move(value)](Access access, std::span<Variant> arguments) mutable -> Variant {
+        return answers(name, [held = std::move(value)](Access access, Values arguments) mutable -> Variant {
             if (access == Access::put) held = arguments.back();
             return held;
         });
@@ -68,7 +69,7 @@ class FakeObject final : public Dispatch {
     std::vector<Variant> elements_;
 };
 
-inline Object make_fake(HostLog& log, std::u16string type, const std::function<void(FakeObject&)>& fill) {
+inline Object make_fake(HostLog& log, std::u16string type, const FakeObject::Fill& fill) {
     auto* fake = new FakeObject(log, std::move(type));
     Object object(fake);
     fill(*fake);

@@ -7,7 +7,7 @@
 #include "runtime/calendar.hpp"
 #include "tests/functions/call.hpp"
 #include "tests/runtime/country.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "functions/function.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::raised;

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "tests/functions/call.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::result_of;

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "tests/functions/call.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

@@ -3,7 +3,7 @@
 #include "functions/between.hpp"
 #include "tests/functions/call.hpp"
 #include "tests/runtime/country.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::Country;

@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "tests/functions/call.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::call;

@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "tests/functions/call.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::call;

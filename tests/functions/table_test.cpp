@@ -11,7 +11,7 @@
 #include "platform/text.hpp"
 #include "runtime/compare.hpp"
 #include "tests/runtime/country.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 

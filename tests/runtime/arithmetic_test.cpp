@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "runtime/checked.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::raised;

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 using namespace qor;
 using test::raised;

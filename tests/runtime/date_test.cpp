@@ -5,7 +5,7 @@
 #include "runtime/calendar.hpp"
 #include "runtime/clock.hpp"
 #include "runtime/format.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

@@ -9,7 +9,7 @@
 #include "runtime/calendar.hpp"
 #include "runtime/locale.hpp"
 #include "tests/runtime/country.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

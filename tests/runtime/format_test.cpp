@@ -10,7 +10,7 @@
 #include "runtime/conversion.hpp"
 #include "runtime/locale.hpp"
 #include "tests/runtime/country.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "runtime/trim.hpp"
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

@@ -9,7 +9,7 @@
 #include <limits>
 #include <string>
 
-#include "tests/runtime/raised.hpp"
+#include "tests/support/raised.hpp"
 
 #ifdef QOR_RAPIDCHECK
 #include <rapidcheck.h>

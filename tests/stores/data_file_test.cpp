@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "platform/text.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

@@ -6,7 +6,7 @@
 
 #include "platform/text.hpp"
 #include "runtime/format.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

@@ -17,22 +17,17 @@ struct Forms : TwoBooks {
         dialog.HelpFile = u"qor.hlp";
         dialog.HelpFileId = 170000;
         dialog.load();
-        TreeView& view = dialog.ctlTreeView.treQOR;
-        for (std::size_t index = 1; index <= view.count(); ++index) view.node(index).set_expanded(true);
+        fakes::open_branches(dialog.ctlTreeView.treQOR);
     }
     template <class Dialog>
     static void check(Dialog& dialog, std::u16string_view key) {
         TreeView& view = dialog.ctlTreeView.treQOR;
-        Pointer box = *view.picture_point(*view.find(key));
-        view.move_pointer(box);
-        box.button = MouseButton::left;
-        view.press_pointer(box);
-        view.release_pointer(box);
+        fakes::click(view, fakes::box_of(view, key));
     }
     template <class Dialog>
     static void double_click(Dialog& dialog, std::u16string_view key) {
         TreeView& view = dialog.ctlTreeView.treQOR;
-        view.move_pointer(*view.text_point(*view.find(key)));
+        view.move_pointer(fakes::text_of(view, key));
         view.double_click();
     }
 

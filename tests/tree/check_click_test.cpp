@@ -1,24 +1,19 @@
 #include <doctest/doctest.h>
 
 #include "tests/fakes/fake_screen.hpp"
+#include "tests/fakes/form_with.hpp"
+#include "tests/fakes/tree_hand.hpp"
 #include "tree/ctlTree.hpp"
 
 using namespace qor;
 
 namespace {
 
-class frmTree final : public Form {
-  public:
-    explicit frmTree(Screen& screen) : Form(u"frmTree", screen) {}
-    ctlTree ctlTreeView{*this, u"ctlTreeView"};
-    std::u16string_view caption() const noexcept override { return u"Tree"; }
-};
-
 // Two windows of book.xls and one of other.xls, all open.
 struct Books {
     fakes::FakeScreen screen;
-    frmTree form{screen};
-    ctlTree& tree = form.ctlTreeView;
+    fakes::FormWith<ctlTree> form{screen, u"frmTree", u"ctlTreeView"};
+    ctlTree& tree = form.control;
     std::vector<bool> told;
 
     Books() {
@@ -41,13 +36,8 @@ struct Books {
         for (const auto& sheet : sheets) add(&window, prefix + sheet, sheet);
     }
     TreeNode& node(std::u16string_view key) { return *tree.treQOR.find(key); }
-    void click_at(Pointer place) {
-        tree.treQOR.move_pointer(place);
-        place.button = MouseButton::left;
-        tree.treQOR.press_pointer(place);
-        tree.treQOR.release_pointer(place);
-    }
-    void click(std::u16string_view key) { click_at(*tree.treQOR.picture_point(node(key))); }
+    void click_at(const Pointer& place) { fakes::click(tree.treQOR, place); }
+    void click(std::u16string_view key) { click_at(fakes::box_of(tree.treQOR, key)); }
     // The images in index order.
     std::u16string images() {
         std::u16string text;
@@ -62,9 +52,7 @@ struct Books {
 
 TEST_CASE_FIXTURE(Books, "checking a sheet checks its window and the root; unchecking it clears both") {
     click(u"book.xls:1*Sales");
-    CHECK(images() ==
-          u"221211111"
-          u"");
+    CHECK(images() == u"221211111");
     click(u"book.xls:1*Sales");
     CHECK(images() == u"111111111");
     CHECK(told == std::vector<bool>{true, false});
@@ -137,7 +125,7 @@ TEST_CASE_FIXTURE(Books, "a window without sheets can be checked") {
 }
 
 TEST_CASE_FIXTURE(Books, "a click on the text only selects the node") {
-    click_at(*tree.treQOR.text_point(node(u"other.xls*Notes")));
+    click_at(fakes::text_of(tree.treQOR, u"other.xls*Notes"));
     CHECK(images() == u"111111111");
     CHECK(told.empty());
     CHECK(tree.treQOR.selected() == &node(u"other.xls*Notes"));
@@ -157,9 +145,8 @@ TEST_CASE_FIXTURE(Books, "the edges of the box do not belong to it") {
 }
 
 TEST_CASE_FIXTURE(Books, "a click without a move before it goes by the last move") {
-    tree.treQOR.move_pointer(*tree.treQOR.picture_point(node(u"ROOT")));
-    Pointer on_text = *tree.treQOR.text_point(node(u"other.xls*Notes"));
-    on_text.button = MouseButton::left;
+    tree.treQOR.move_pointer(fakes::box_of(tree.treQOR, u"ROOT"));
+    const Pointer on_text = fakes::held(fakes::text_of(tree.treQOR, u"other.xls*Notes"));
     tree.treQOR.press_pointer(on_text);
     tree.treQOR.release_pointer(on_text);
     CHECK(images() == u"211111122");
@@ -184,11 +171,11 @@ TEST_CASE_FIXTURE(Books, "check boxes are counted by level, a sheet once for eac
 TEST_CASE("the box is 11 pixels wide, rounded to a whole twip") {
     fakes::FakeScreen screen;
     screen.twips = 14.5;  // 159.5, a tie, goes to the even 160
-    frmTree form(screen);
-    TreeView& tree = form.ctlTreeView.treQOR;
+    fakes::FormWith<ctlTree> form(screen, u"frmTree", u"ctlTreeView");
+    TreeView& tree = form.control.treQOR;
     tree.add(nullptr, Relationship::child, u"ROOT", u"root", ctlTree::unchecked);
     int told = 0;
-    form.ctlTreeView.CheckStateChanged = [&](bool) { ++told; };
+    form.control.CheckStateChanged = [&](bool) { ++told; };
     for (const double x : {285 + 159.75, 285 + 160.0}) {
         tree.move_pointer({.x = x, .y = 100});
         tree.press_pointer({.x = x, .y = 100, .button = MouseButton::left});

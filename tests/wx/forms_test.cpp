@@ -9,7 +9,7 @@
 #include "screens/wx/accessible.hpp"
 #include "screens/wx/form_window.hpp"
 #include "services/frmComplete.hpp"
-#include "tests/fakes/fake_settings.hpp"
+#include "tests/fakes/fake_host.hpp"
 #include "tests/wx/fixture.hpp"
 
 using namespace qor;
@@ -17,13 +17,10 @@ using namespace qor::tests;
 
 namespace {
 
-struct Product : OnDisplay {
-    WxScreen screen{{}};
-    fakes::FakeSettings settings;
+struct Product : OnDisplay, fakes::HostWith<WxScreen> {
     std::vector<std::unique_ptr<Form>> forms;
 
-    Product() {
-        set_environment({screen, settings});
+    Product() : HostWith(NativeWindow()) {
         for (const Tool& tool : tools()) {
             auto form = tool.make_form();
             form->AppTitle = tool.title;

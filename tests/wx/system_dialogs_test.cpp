@@ -3,7 +3,7 @@
 #include <atomic>
 #include <fstream>
 
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 #include "tests/wx/fixture.hpp"
 
 using namespace qor;

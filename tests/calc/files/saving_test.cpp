@@ -1,19 +1,10 @@
-#include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "platform/text.hpp"
 #include "tests/calc/support/fixture.hpp"
 
 namespace qor::calc::tests {
 namespace {
-
-std::string content(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 std::u16string text_of(const std::filesystem::path& path) {
     return from_utf8(path.string());
@@ -110,7 +101,7 @@ TEST_CASE("text formats hold the active sheet") {
         const Object book = table_book(calc);
         book.call(names::SaveAs, text_of(calc.folder() / file), number);
         book.call(names::Close, false);
-        return content(calc.folder() / file);
+        return test::content_of(calc.folder() / file);
     };
     CHECK(saved_as("t.csv", 6) == "NAME,AMOUNT\n\"ink, red\",12.5\npen,25\n");
     CHECK(saved_as("t.txt", 20) == "NAME\tAMOUNT\nink, red\t12.5\npen\t25\n");
@@ -141,7 +132,7 @@ TEST_CASE("a file of the first sheet only is saved again as it was") {
     CHECK(book.get(names::Saved) == false);
     book.call(names::Save);
     CHECK(book.get(names::Saved) == true);
-    CHECK(content(calc.folder() / "again.dif").find("\"paper\"") != std::string::npos);
+    CHECK(test::content_of(calc.folder() / "again.dif").find("\"paper\"") != std::string::npos);
     CHECK(names_of_sheets(book) == "Sheet3;Sheet2;Sheet1;");
 }
 
@@ -154,16 +145,16 @@ TEST_CASE("a file that is there is replaced after a question only") {
     REQUIRE(calc.user->messages.size() == 1);
     CHECK(to_utf8(calc.user->messages[0].text) ==
           "A file named '" + path.string() + "' already exists in this location. Do you want to replace it?");
-    CHECK(content(path) == "old");
+    CHECK(test::content_of(path) == "old");
     CHECK(book.get(names::Path) == u"");
     calc.user->answers = {MessageAnswer::yes};
     book.call(names::SaveAs, text_of(path));
-    CHECK(content(path).starts_with("PK"));
+    CHECK(test::content_of(path).starts_with("PK"));
 
     std::ofstream(calc.folder() / "other.xlsx") << "old";
     calc.application.put(names::DisplayAlerts, false);
     book.call(names::SaveAs, text_of(calc.folder() / "other.xlsx"));
-    CHECK(content(calc.folder() / "other.xlsx").starts_with("PK"));
+    CHECK(test::content_of(calc.folder() / "other.xlsx").starts_with("PK"));
     CHECK(calc.user->messages.size() == 2);
 }
 
@@ -177,14 +168,14 @@ TEST_CASE("a copy leaves the workbook as it is") {
     CHECK(calc.user->messages.empty());
     CHECK(book.get(names::Name) == u"source.xls");
     CHECK(book.get(names::Saved) == false);
-    CHECK(content(copy).starts_with("\xD0\xCF\x11\xE0"));
+    CHECK(test::content_of(copy).starts_with("\xD0\xCF\x11\xE0"));
     book.call(names::Close, false);
     const Object again = calc.open(copy);
     CHECK(cell(again.get(names::Worksheets, 1), u"A1").get(names::Value) == u"changed");
     CHECK(error_of([&] { again.call(names::SaveCopyAs, text_of(calc.folder() / "absent" / "c.xls")); }) == 1004);
     const Object fresh = calc.add_book();
     fresh.call(names::SaveCopyAs, text_of(calc.folder() / "fresh.xlsx"));
-    CHECK(content(calc.folder() / "fresh.xlsx").starts_with("PK"));
+    CHECK(test::content_of(calc.folder() / "fresh.xlsx").starts_with("PK"));
     CHECK(fresh.get(names::Path) == u"");
 }
 
@@ -211,14 +202,14 @@ TEST_CASE("a read-only workbook is saved under another name only") {
     const Calc calc;
     calc.reopened(table_book(calc), "locked.ods").call(names::Close, false);
     const std::filesystem::path path = calc.folder() / "locked.ods";
-    const std::string before = content(path);
+    const std::string before = test::content_of(path);
     const Object book =
         calc.application.get(names::Workbooks).call(names::Open, text_of(path), named(names::ReadOnly, true)).object();
     CHECK(error_of([&] { book.call(names::Save); }) == 1004);
-    CHECK(content(path) == before);
+    CHECK(test::content_of(path) == before);
     book.call(names::SaveAs, text_of(calc.folder() / "free.ods"));
     CHECK(book.get(names::Name) == u"free.ods");
-    CHECK(content(path) == before);
+    CHECK(test::content_of(path) == before);
 }
 
 TEST_CASE("a workbook after a template") {

@@ -11,7 +11,7 @@
 #include "runtime/conversion.hpp"
 #include "tests/calc/support/fixture.hpp"
 #include "tests/calc_document/calc_document.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::calc::tests {
 namespace {

@@ -44,22 +44,19 @@ void check_free(const css::uno::Reference<css::frame::XModel>& document) {
 class Trial {
   public:
     Trial() : book(calc.add_book()), sheet(book.get(names::Worksheets, 1)), document_(newest_document()) {}
-    ~Trial() { MESSAGE(failures_ << " host calls failed"); }
 
     Object range(std::u16string_view address) const { return sheet.get(names::Range, address); }
 
     // Fails each call of the work and sees that the workbook can be worked on then.
     template <class Work, class Check>
     void run(Work work, Check check) {
-        const std::uint64_t failures = support::fail_each_host_call([&] {}, work,
-                                                                    [&](std::int32_t error) {
-                                                                        CAPTURE(error);
-                                                                        check_free(document_);
-                                                                        check(error);
-                                                                        next_command_works();
-                                                                    });
-        CHECK(failures > 0);
-        failures_ += failures;
+        const auto check_all = [&](std::int32_t error) {
+            CAPTURE(error);
+            check_free(document_);
+            check(error);
+            next_command_works();
+        };
+        support::fail_each_host_call([] {}, work, check_all);
     }
     template <class Work>
     void run(Work work) {
@@ -74,7 +71,7 @@ class Trial {
         work();
         const auto after = read();
         REQUIRE_FALSE(before == after);
-        const std::uint64_t failures = support::fail_each_host_call(prepare, work, [&](std::int32_t error) {
+        support::fail_each_host_call(prepare, work, [&](std::int32_t error) {
             CAPTURE(error);
             check_free(document_);
             if (error == 0) {
@@ -84,8 +81,6 @@ class Trial {
             }
             next_command_works();
         });
-        CHECK(failures > 0);
-        failures_ += failures;
     }
 
     const Calc calc;
@@ -101,7 +96,6 @@ class Trial {
 
     css::uno::Reference<css::frame::XModel> document_;
     double next_ = 0;
-    std::uint64_t failures_ = 0;
 };
 
 Array texts(std::initializer_list<Variant> values, std::size_t columns) {

@@ -1,8 +1,6 @@
 #include "platform/text.hpp"
 #include "reports/report_form.hpp"
 #include "tests/calc/support/report_run.hpp"
-#include "tests/fakes/fake_screen.hpp"
-#include "tests/fakes/memory_settings.hpp"
 
 namespace qor::calc::tests {
 namespace {
@@ -83,7 +81,7 @@ TEST_CASE("what goes away under the dialog leaves blank or missing records, and 
             book.get(names::Worksheets, 1).put(names::Name, u"Renamed");
             fakes::FakeScreen screen;
             fakes::MemorySettings settings;
-            set_environment({screen, settings});
+            const fakes::InPlace in_place({screen, settings});
             screen.while_modal = [&](Form& form) {
                 auto& report = dynamic_cast<ReportForm&>(form);
                 TreeView& tree = report.ctlTreeView.treQOR;

@@ -1,9 +1,7 @@
 #include "reports/report_forms.hpp"
 #include "runtime/clock.hpp"
 #include "tests/calc/support/report_run.hpp"
-#include "tests/fakes/fake_screen.hpp"
-#include "tests/fakes/memory_settings.hpp"
-#include "tree/ctlTree.hpp"
+#include "tests/fakes/form_with.hpp"
 
 namespace qor::calc::tests {
 namespace {
@@ -11,30 +9,17 @@ namespace {
 using namespace std::chrono_literals;
 using Steps = std::vector<std::pair<std::int32_t, std::int32_t>>;
 
-class frmTree final : public Form {
-  public:
-    explicit frmTree(Screen& screen) : Form(u"frmTree", screen) {}
-    ctlTree ctlTreeView{*this, u"ctlTreeView"};
-    std::u16string_view caption() const noexcept override { return u"Tree"; }
-};
-
 // A workbook with 3000 rows of two dates, and what the user hears of the reports on it.
 struct ProgressRun {
     ToolRun run;
     Object book = run.add_book();
     fakes::FakeScreen screen;
     fakes::MemorySettings settings;
+    fakes::InPlace in_place{{screen, settings}, run.application};
     std::function<std::chrono::steady_clock::time_point()> real_clock = running_clock();
 
-    ProgressRun() {
-        book.get(names::Worksheets, 1).get(names::Range, u"A1:B3000").put(names::Value, Date{38061.0});
-        set_environment({screen, settings});
-        gExcel = run.application;
-    }
-    ~ProgressRun() {
-        gExcel = {};
-        running_clock() = real_clock;
-    }
+    ProgressRun() { book.get(names::Worksheets, 1).get(names::Range, u"A1:B3000").put(names::Value, Date{38061.0}); }
+    ~ProgressRun() { running_clock() = real_clock; }
     ProgressRun(const ProgressRun&) = delete;
     ProgressRun& operator=(const ProgressRun&) = delete;
 
@@ -43,12 +28,12 @@ struct ProgressRun {
         std::chrono::steady_clock::time_point time;
         running_clock() = [&] { return time += step; };
         Steps steps;
-        frmTree form(screen);
-        form.ctlTreeView.Progress = [&](std::int32_t done, std::int32_t total) { steps.emplace_back(done, total); };
-        form.ctlTreeView.LoadExcel();
-        TreeView& tree = form.ctlTreeView.treQOR;
+        fakes::FormWith<ctlTree> form(screen, u"frmTree", u"ctlTreeView");
+        form.control.Progress = [&](std::int32_t done, std::int32_t total) { steps.emplace_back(done, total); };
+        form.control.LoadExcel();
+        TreeView& tree = form.control.treQOR;
         for (std::size_t index = 1; index <= tree.count(); ++index) tree.node(index).set_image(ctlTree::checked);
-        report.write(form.ctlTreeView, report.fields().checked_headings());
+        report.write(form.control, report.fields().checked_headings());
         run.application.get(names::ActiveWorkbook).call(names::Close, false);
         return steps;
     }

@@ -7,8 +7,8 @@
 #include "hosts/calc/adapter/ground/host.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
-#include "runtime/clock.hpp"
 #include "tests/calc/support/tool_run.hpp"
+#include "tests/runtime/country.hpp"
 
 namespace qor::calc::tests {
 namespace {
@@ -58,14 +58,14 @@ void put(const Object& sheet, const char16_t* address, const Variant& value) {
 
 TEST_CASE("the Worksheet Summary goes into a new workbook with title block, headings and records") {
     ToolRun run;
-    const auto fixed = wall_clock();
-    wall_clock() = [] { return Date{46347.75}; };
     const Object book = run.reopened(run.add_book(), "source.xlsx");
     put(book.get(names::Worksheets, 1), u"B2", 5.0);
     book.put(names::Saved, true);
 
-    const json shown = run.call(u"UTWorSum", check_all);
-    wall_clock() = fixed;
+    const json shown = [&] {
+        const test::TimeStopped time(Date{46347.75});
+        return run.call(u"UTWorSum", check_all);
+    }();
 
     CHECK(run.application.get(names::Workbooks).get(names::Count) == 2);
     CHECK_FALSE(run.application.get(names::ActiveWorkbook).object().is(book));

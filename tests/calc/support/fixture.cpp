@@ -1,7 +1,5 @@
 #include "tests/calc/support/fixture.hpp"
 
-#include <unistd.h>
-
 #include "hosts/calc/adapter/objects/application/application.hpp"
 #include "platform/text.hpp"
 
@@ -95,18 +93,12 @@ bool ToldUser::show_page(const std::u16string& address) {
     return shows_pages;
 }
 
-Calc::Calc()
-    : application(make_application(office_context(), user, u"/usr/share/companion")),
-      folder_(std::filesystem::temp_directory_path() / ("qorplus-calc-tests-" + std::to_string(::getpid()))) {
-    std::filesystem::create_directories(folder_);
-}
+Calc::Calc() : application(make_application(office_context(), user, u"/usr/share/companion")) {}
 
 Calc::~Calc() {
     attempt([&] {
         for (const Variant& book : application.get(names::Workbooks).object().items()) book.call(names::Close, false);
     });
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 Object Calc::add_book() const {
@@ -122,7 +114,7 @@ Object Calc::open(const std::filesystem::path& path) const {
 }
 
 Object Calc::reopened(const Object& book, const char* file_name) const {
-    const std::filesystem::path path = folder_ / file_name;
+    const std::filesystem::path path = folder() / file_name;
     book.call(names::SaveAs, from_utf8(path.string()));
     book.call(names::Close, false);
     return open(path);

@@ -2,12 +2,12 @@
 
 #include <doctest/doctest.h>
 #include <com/sun/star/uno/XComponentContext.hpp>
-#include <filesystem>
 #include <ostream>
 
 #include "automation/member_names.hpp"
 #include "automation/variant.hpp"
 #include "hosts/calc/adapter/ground/host_user.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor {
 
@@ -60,10 +60,10 @@ class Calc {
     // Saves the book under this name in a folder of the test's own, closes it and opens it again.
     Object reopened(const Object& book, const char* file_name) const;
 
-    const std::filesystem::path& folder() const { return folder_; }
+    const std::filesystem::path& folder() const { return folder_.path; }
 
   private:
-    std::filesystem::path folder_;
+    test::TemporaryFolder folder_;
 };
 
 std::string utf8(const Variant& text);

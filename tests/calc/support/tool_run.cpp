@@ -5,11 +5,6 @@
 
 namespace qor::calc::tests {
 
-ToolRun::ToolRun() : settings_(folder() / "settings.ini") {
-    set_environment({screen_, settings_});
-    com_ = make_object<CCom>();
-}
-
 void ToolRun::set_option(std::u16string_view name, std::u16string_view value) {
     REQUIRE(settings_.write(u"Options", name, value));
 }

@@ -3,18 +3,16 @@
 #include <nlohmann/json.hpp>
 
 #include "core/CCom.hpp"
-#include "ground/MMain.hpp"
 #include "platform/ini_settings_store.hpp"
 #include "screens/script/script_screen.hpp"
 #include "tests/calc/support/fixture.hpp"
+#include "tests/fakes/in_place.hpp"
 
 namespace qor::calc::tests {
 
 // A Calc in which tools of the add-in are run with a scripted screen, with options of its own.
 class ToolRun : public Calc {
   public:
-    ToolRun();
-
     void set_option(std::u16string_view name, std::u16string_view value);
 
     // Calls the command as the session does, one undo step around it; answers what was shown. What is given besides
@@ -35,9 +33,10 @@ class ToolRun : public Calc {
     std::vector<Variant> row(std::int32_t row, std::size_t columns) const;
 
   private:
-    IniSettingsStore settings_;
+    IniSettingsStore settings_{folder() / "settings.ini"};
     ScriptScreen screen_;
-    Object com_;
+    fakes::InPlace in_place_{{screen_, settings_}};
+    Object com_ = make_object<CCom>();
 };
 
 }  // namespace qor::calc::tests

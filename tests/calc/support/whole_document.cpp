@@ -3,9 +3,6 @@
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/ground/host.hpp"
@@ -36,14 +33,13 @@ std::string part(const std::string& text, std::string_view from, std::string_vie
 }  // namespace
 
 std::string whole_document() {
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "qorplus-whole-document.fods";
+    const test::TemporaryFolder folder;
+    const std::filesystem::path file = folder.path / "whole-document.fods";
     const css::beans::PropertyValue filter =
         named_value("FilterName", rtl::OUString("OpenDocument Spreadsheet Flat XML"));
     const PropertyValues how(&filter, 1);
     Ref<css::frame::XStorable>(newest())->storeToURL(to_uno(address_of_path(file.u16string())), how);
-    std::ifstream stream(file, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
-    std::filesystem::remove(file);
+    const std::string text = test::content_of(file);
     return part(text, "<office:automatic-styles", "</office:automatic-styles>") +
            part(text, "<office:body>", "</office:body>");
 }

@@ -136,7 +136,7 @@ TEST_CASE_FIXTURE(Batches, "a workbook of one worksheet stays as it is; the chec
 
 TEST_CASE_FIXTURE(Batches, "the active workbook closed between dialog and OK is passed over") {
     const Object other = book("other.ods", {u"b", u"a"});
-    gExcel = application;
+    const fakes::InPlace in_place(environment(), application);
     frmSrtWk form;
     form.load();
     perform(form, {{"check", "ctlTreeView"}, {"node", "ROOT"}});
@@ -144,7 +144,6 @@ TEST_CASE_FIXTURE(Batches, "the active workbook closed between dialog and OK is 
     perform(form, {{"press", "cmdButton(0)"}});
     CHECK(sheet_names(other) == "a/b/");
     CHECK_FALSE(form.loaded());
-    gExcel = {};
 }
 
 TEST_CASE_FIXTURE(Batches, "a workbook that refuses is passed over, the one behind it is not") {

@@ -204,7 +204,7 @@ TEST_CASE_FIXTURE(Tree, "Calc cannot undo a sheet that came from another workboo
 }
 
 TEST_CASE_FIXTURE(Tree, "a workbook closed and sheets deleted or renamed under the tree are passed over") {
-    gExcel = application;
+    const fakes::InPlace in_place(environment(), application);
     frmNav form;
     form.load();
     plan.get(names::Worksheets, u"Loan").call(names::Delete);
@@ -217,7 +217,6 @@ TEST_CASE_FIXTURE(Tree, "a workbook closed and sheets deleted or renamed under t
     perform(form, {{"double", "ctlTreeView"}, {"node", "plan.ods*Inputs"}});
     CHECK_FALSE(form.loaded());
     CHECK(books() == 1);
-    gExcel = {};
 }
 
 }  // namespace qor::calc::tests

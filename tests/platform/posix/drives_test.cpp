@@ -5,7 +5,7 @@
 
 #include "platform/posix/block_device.hpp"
 #include "platform/posix/mount_table.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 

@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 #include <sys/stat.h>
 
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 
@@ -54,7 +54,8 @@ TEST_CASE("a link stands for its target, and one without a target for nothing") 
 TEST_CASE("only the root may end in a separator") {
     CHECK(find_file(u"/"));
     CHECK(find_file(u"C:\\"));
-    CHECK_FALSE(find_file(std::filesystem::temp_directory_path().u16string() + u"/"));
+    const test::TemporaryFolder folder;
+    CHECK_FALSE(find_file(folder.path.u16string() + u"/"));
     CHECK_FALSE(find_file(u""));
 }
 

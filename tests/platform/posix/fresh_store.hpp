@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/ini_settings_store.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace qor::test {
 

@@ -10,7 +10,7 @@
 
 #include "platform/ini_settings_store.hpp"
 #include "tests/platform/posix/child_process.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

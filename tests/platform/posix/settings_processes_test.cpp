@@ -12,7 +12,7 @@
 #include "platform/posix/file_descriptor.hpp"
 #include "platform/text.hpp"
 #include "tests/platform/posix/child_process.hpp"
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <thread>
 
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 using namespace qor::test;

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/platform/temporary_folder.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 

@@ -14,6 +14,7 @@
 #include "screens/wx/text.hpp"
 #include "screens/wx/wx_screen.hpp"
 #include "services/frmComplete.hpp"
+#include "tests/fakes/tree_hand.hpp"
 #include "tests/reports/report_host.hpp"
 #include "tests/window/display.hpp"
 #include "tests/window/hand.hpp"
@@ -40,7 +41,7 @@ class Album {
         wx::Layouts layouts = wx::product_layouts();
         layouts.insert(wx::test_layouts().begin(), wx::test_layouts().end());
         screen_.emplace(NativeWindow(), std::move(layouts));
-        set_environment({*screen_, host_.settings});
+        in_place_.emplace(Environment{*screen_, host_.settings});
         host_.add_sheet(u"Inputs", 1.0, u"1");
         host_.add_sheet(u"Loan", 1.0, u"1");
         host_.add_sheet(u"Ratios", 1.0, u"1");
@@ -80,6 +81,7 @@ class Album {
     std::filesystem::path folder_;
     fakes::ReportHost host_;
     std::optional<WxScreen> screen_;
+    std::optional<fakes::InPlace> in_place_;
 };
 
 // A dialog with the tree, one worksheet checked.
@@ -91,11 +93,7 @@ void take_tree(Album& album, std::u16string_view title) {
         user.on_screen([&] {
             TreeView& tree = form.ctlTreeView.treQOR;
             tree.find(u"model.xls")->set_expanded(true);
-            Pointer box = *tree.picture_point(*tree.find(u"model.xls*Loan"));
-            tree.move_pointer(box);
-            box.button = MouseButton::left;
-            tree.press_pointer(box);
-            tree.release_pointer(box);
+            fakes::click(tree, fakes::box_of(tree, u"model.xls*Loan"));
         });
     });
 }
