@@ -10,8 +10,8 @@
 #include "tests/excel/server.hpp"
 #include "tests/excel/tester.hpp"
 #include "tests/fakes/fake_host.hpp"
-#include "tests/support/temporary_folder.hpp"
 #include "tests/support/failing_object.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 using namespace qor;
 using fakes::FakeObject;

@@ -2,6 +2,9 @@
 
 #include <doctest/doctest.h>
 
+#include <string>
+#include <vector>
+
 #include "platform/text.hpp"
 
 namespace {
@@ -22,11 +25,25 @@ std::string of_kind(std::u16string_view formula, ReferenceKind kind) {
 
 constexpr CellPlace base{2, 4};  // C5
 
-std::string by_number(std::u16string_view formula) {
-    return converted(formula, {.to = ReferenceStyle::row_column, .base = base});
+struct Conversion {
+    std::u16string_view formula;
+    std::string converted;
+};
+
+void check_all(const ReferenceConversion& conversion, const std::vector<Conversion>& rows) {
+    for (const Conversion& row : rows) {
+        CAPTURE(qor::to_utf8(row.formula));
+        CHECK(converted(row.formula, conversion) == row.converted);
+    }
 }
-std::string by_letter(std::u16string_view formula) {
-    return converted(formula, {.from = ReferenceStyle::row_column, .base = base});
+void check_absolute(const std::vector<Conversion>& rows) {
+    check_all({.kind = ReferenceKind::absolute}, rows);
+}
+void check_by_number(const std::vector<Conversion>& rows) {
+    check_all({.to = ReferenceStyle::row_column, .base = base}, rows);
+}
+void check_by_letter(const std::vector<Conversion>& rows) {
+    check_all({.from = ReferenceStyle::row_column, .base = base}, rows);
 }
 
 }  // namespace
@@ -46,42 +63,47 @@ TEST_CASE("the four kinds of references") {
 }
 
 TEST_CASE("only references change") {
-    CHECK(of_kind(u"=\"A1\"&A1&\"\"\"B2\"", ReferenceKind::absolute) == "=\"A1\"&$A$1&\"\"\"B2\"");
-    CHECK(of_kind(u"='A1'!B2+Sheet1!B2+Sheet1:Sheet3!C3:D4", ReferenceKind::absolute) ==
-          "='A1'!$B$2+Sheet1!$B$2+Sheet1:Sheet3!$C$3:$D$4");
-    CHECK(of_kind(u"='it''s A1'!B2", ReferenceKind::absolute) == "='it''s A1'!$B$2");
-    CHECK(of_kind(u"=[B2.xlsx]S!B2+'/p/[B2.xlsx]B2'!B2", ReferenceKind::absolute) ==
-          "=[B2.xlsx]S!$B$2+'/p/[B2.xlsx]B2'!$B$2");
-    CHECK(of_kind(u"=LOG10(A1)+A1B+_A1+A1.x+XFE1+A1048577", ReferenceKind::absolute) ==
-          "=LOG10($A$1)+A1B+_A1+A1.x+XFE1+A1048577");
-    CHECK(of_kind(u"=SUM(Table1[[#All],[A1]])*A1", ReferenceKind::absolute) == "=SUM(Table1[[#All],[A1]])*$A$1");
-    CHECK(of_kind(u"=1E5+1.5*{1,2;3,4}-2%", ReferenceKind::absolute) == "=1E5+1.5*{1,2;3,4}-2%");
-    CHECK(of_kind(u"=#REF!+SUM(#REF!)+#REF!A1", ReferenceKind::absolute) == "=#REF!+SUM(#REF!)+#REF!$A$1");
-    CHECK(of_kind(u"=(A1,B2) A1:B9", ReferenceKind::absolute) == "=($A$1,$B$2) $A$1:$B$9");
-    CHECK(of_kind(u"=A1:INDEX(B:B,3)", ReferenceKind::absolute) == "=$A$1:INDEX($B:$B,3)");
-    CHECK(of_kind(u"=xfd1048576+a1", ReferenceKind::absolute) == "=$XFD$1048576+$A$1");
+    check_absolute({
+        {u"=\"A1\"&A1&\"\"\"B2\"", "=\"A1\"&$A$1&\"\"\"B2\""},
+        {u"='A1'!B2+Sheet1!B2+Sheet1:Sheet3!C3:D4", "='A1'!$B$2+Sheet1!$B$2+Sheet1:Sheet3!$C$3:$D$4"},
+        {u"='it''s A1'!B2", "='it''s A1'!$B$2"},
+        {u"=[B2.xlsx]S!B2+'/p/[B2.xlsx]B2'!B2", "=[B2.xlsx]S!$B$2+'/p/[B2.xlsx]B2'!$B$2"},
+        {u"=LOG10(A1)+A1B+_A1+A1.x+XFE1+A1048577", "=LOG10($A$1)+A1B+_A1+A1.x+XFE1+A1048577"},
+        {u"=SUM(Table1[[#All],[A1]])*A1", "=SUM(Table1[[#All],[A1]])*$A$1"},
+        {u"=1E5+1.5*{1,2;3,4}-2%", "=1E5+1.5*{1,2;3,4}-2%"},
+        {u"=#REF!+SUM(#REF!)+#REF!A1", "=#REF!+SUM(#REF!)+#REF!$A$1"},
+        {u"=(A1,B2) A1:B9", "=($A$1,$B$2) $A$1:$B$9"},
+        {u"=A1:INDEX(B:B,3)", "=$A$1:INDEX($B:$B,3)"},
+        {u"=xfd1048576+a1", "=$XFD$1048576+$A$1"},
+    });
 }
 
 TEST_CASE("references by the numbers of rows and columns") {
-    CHECK(by_number(u"=A1+$B$2+C5+$D6+E$7") == "=R[-4]C[-2]+R2C2+RC+R[1]C4+R7C[2]");
-    CHECK(by_number(u"=SUM($B$10:$B$15)") == "=SUM(R10C2:R15C2)");
-    CHECK(by_number(u"=SUM(C5:D6)") == "=SUM(RC:R[1]C[1])");
-    CHECK(by_number(u"=SUM(A:B,$C:$C,C:C,5:5,$6:$7)") == "=SUM(C[-2]:C[-1],C3,C,R,R6:R7)");
-    CHECK(by_number(u"=Sheet1!B2&\"B2\"") == "=Sheet1!R[-3]C[-1]&\"B2\"");
-    CHECK(by_number(u"=SUM(A$1:A$1048576)") == "=SUM(C[-2])");
-    CHECK(by_letter(u"=SUM(R10C2:R15C2)") == "=SUM($B$10:$B$15)");
-    CHECK(by_letter(u"=R[-4]C[-2]+R2C2+RC+R[1]C4+R7C[2]") == "=A1+$B$2+C5+$D6+E$7");
-    CHECK(by_letter(u"=SUM(C[-2]:C[-1],C3,C,R,R6:R7)") == "=SUM(A:B,$C:$C,C:C,5:5,$6:$7)");
-    CHECK(by_letter(u"=rc[1]+r[1]c") == "=D5+C6");
-    CHECK(by_letter(u"=ROUND(RC,2)+RATE(C1,2)+RC_1+R1C1x") == "=ROUND(C5,2)+RATE($A:$A,2)+RC_1+R1C1x");
-    CHECK(by_letter(u"R1C28") == "$AB$1");
+    check_by_number({
+        {u"=A1+$B$2+C5+$D6+E$7", "=R[-4]C[-2]+R2C2+RC+R[1]C4+R7C[2]"},
+        {u"=SUM($B$10:$B$15)", "=SUM(R10C2:R15C2)"},
+        {u"=SUM(C5:D6)", "=SUM(RC:R[1]C[1])"},
+        {u"=SUM(A:B,$C:$C,C:C,5:5,$6:$7)", "=SUM(C[-2]:C[-1],C3,C,R,R6:R7)"},
+        {u"=Sheet1!B2&\"B2\"", "=Sheet1!R[-3]C[-1]&\"B2\""},
+        {u"=SUM(A$1:A$1048576)", "=SUM(C[-2])"},
+    });
+    check_by_letter({
+        {u"=SUM(R10C2:R15C2)", "=SUM($B$10:$B$15)"},
+        {u"=R[-4]C[-2]+R2C2+RC+R[1]C4+R7C[2]", "=A1+$B$2+C5+$D6+E$7"},
+        {u"=SUM(C[-2]:C[-1],C3,C,R,R6:R7)", "=SUM(A:B,$C:$C,C:C,5:5,$6:$7)"},
+        {u"=rc[1]+r[1]c", "=D5+C6"},
+        {u"=ROUND(RC,2)+RATE(C1,2)+RC_1+R1C1x", "=ROUND(C5,2)+RATE($A:$A,2)+RC_1+R1C1x"},
+        {u"R1C28", "$AB$1"},
+    });
 }
 
 TEST_CASE("references that are counted over the edge go on at the other one") {
-    CHECK(by_letter(u"=R[-5]C[-3]") == "=XFD1048576");
-    CHECK(by_letter(u"=R[1048572]C[16382]") == "=A1");
-    CHECK(by_letter(u"=SUM(R[-5]C:R[-4]C)") == "=SUM(C:C)");
-    CHECK(by_letter(u"=R[1048576]C+R0C1+R1048577C1") == "=R[1048576]C+R0C1+R1048577C1");
+    check_by_letter({
+        {u"=R[-5]C[-3]", "=XFD1048576"},
+        {u"=R[1048572]C[16382]", "=A1"},
+        {u"=SUM(R[-5]C:R[-4]C)", "=SUM(C:C)"},
+        {u"=R[1048576]C+R0C1+R1048577C1", "=R[1048576]C+R0C1+R1048577C1"},
+    });
 }
 
 TEST_CASE("style and kind change together") {

@@ -1,27 +1,22 @@
+#include "ui/tree_view.hpp"
+
 #include <doctest/doctest.h>
 
 #include "automation/error.hpp"
 #include "tests/fakes/fake_screen.hpp"
-#include "ui/tree_view.hpp"
+#include "tests/fakes/form_with.hpp"
 
 using namespace qor;
 
 namespace {
-
-class frmTree final : public Form {
-  public:
-    explicit frmTree(Screen& screen) : Form(u"frmTree", screen) {}
-    TreeView tree{*this, u"tree"};
-    std::u16string_view caption() const noexcept override { return u"Tree"; }
-};
 
 // root
 //   a
 //     a1
 struct SmallTree {
     fakes::FakeScreen screen;
-    frmTree form{screen};
-    TreeView& tree = form.tree;
+    fakes::FormWith<TreeView> form{screen, u"frmTree", u"tree"};
+    TreeView& tree = form.control;
     TreeNode& root = tree.add(nullptr, Relationship::child, u"root", u"Root", 1);
     TreeNode& a = tree.add(&root, Relationship::child, u"a", u"A", 1);
     TreeNode& a1 = tree.add(&a, Relationship::child, u"a1", u"A1", 1);

@@ -1,36 +1,32 @@
+#include "ui/tree_view.hpp"
+
 #include <doctest/doctest.h>
 
 #include "automation/error.hpp"
 #include "tests/fakes/fake_screen.hpp"
-#include "ui/tree_view.hpp"
+#include "tests/fakes/form_with.hpp"
+#include "tests/fakes/tree_hand.hpp"
 
 using namespace qor;
 
 namespace {
 
-class frmTree final : public Form {
-  public:
-    explicit frmTree(Screen& screen) : Form(u"frmTree", screen) {}
-    TreeView tree{*this, u"tree"};
-    std::u16string_view caption() const noexcept override { return u"Tree"; }
-};
-
 struct Fixture {
     fakes::FakeScreen screen;
-    frmTree form{screen};
-    TreeView& tree = form.tree;
+    fakes::FormWith<TreeView> form{screen, u"frmTree", u"tree"};
+    TreeView& tree = form.control;
 
     TreeNode& add(TreeNode* relative, Relationship relationship, const std::u16string& key) {
         return tree.add(relative, relationship, key, key, 1);
     }
     // The rows from above as one text, whatever is closed.
     std::u16string all_rows() {
-        for (std::size_t index = 1; index <= tree.count(); ++index) tree.node(index).set_expanded(true);
+        fakes::open_branches(tree);
         std::u16string text;
         for (const TreeNode* row : tree.visible_rows()) text += row->text() + u' ';
         return text;
     }
-    Pointer left(double x, double y) { return {.x = x, .y = y, .button = MouseButton::left}; }
+    static Pointer left(double x, double y) { return {.x = x, .y = y, .button = MouseButton::left}; }
     void click(double x, double y) {
         tree.press_pointer(left(x, y));
         tree.release_pointer(left(x, y));

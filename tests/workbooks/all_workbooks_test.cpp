@@ -25,8 +25,7 @@ struct Books : fakes::CommandHost {
     Variant file_name = false;
 
     Books() {
-        application.answers(names::Workbooks,
-                            [this](Access, Values) -> Variant { return collection(u"Workbooks", books); });
+        application.holds(names::Workbooks, collection(u"Workbooks", books));
         application.answers(names::GetSaveAsFilename, [this](Access, Values arguments) -> Variant {
             done.push_back(u"ask" + joined(arguments));
             return file_name;

@@ -110,59 +110,73 @@ TEST_CASE("the Worksheet Summary goes into a new workbook with title block, head
 }
 
 TEST_CASE("what counts as used, as input and as formula") {
-    ToolRun run;
-    const Object book = run.reopened(run.add_book(), "kinds.ods");
-    const Object sheet = book.get(names::Worksheets, 1);
-    SUBCASE("nothing at all") {
+    struct Entry {
+        const char16_t* address;
+        Variant content;
+        const MemberName& property = names::Value;
+    };
+    struct Contents {
+        const char* are;
+        std::vector<Entry> entries;
+        double used;
+        double inputs;
+        double formulas;
+        double ratio;
+    };
+    for (const Contents& contents : std::vector<Contents>{
+             {"nothing at all", {}, 0, 0, 0, 0},
+             {"constants of every kind, zero and error values included",
+              {{u"A1", 0.0}, {u"A2", u"text"}, {u"A3", true}, {u"A4", Date{45000.0}}, {u"C9", u"'123"}},
+              5,
+              5,
+              0,
+              0},
+             {"a formula that gives an empty text, which is a formula and no used cell",
+              {{u"A1", u"=IF(1=1,\"\",2)", names::Formula}, {u"A2", u"=1+1", names::Formula}, {u"A3", 4.0}},
+              2,
+              1,
+              2,
+              0.5},
+             {"an array formula, which counts in every cell of its range",
+              {{u"A1:A3", 2.0}, {u"C1:C3", u"=A1:A3*2", names::FormulaArray}},
+              6,
+              3,
+              3,
+              1},
+             {"a text that starts with an equals sign, which counts as a formula",
+              {{u"A1", u"'=not computed"}, {u"A2", u"plain"}},
+              2,
+              1,
+              1,
+              1},
+             {"formulas that fail, which are used cells",
+              {{u"A1", u"=1/0", names::Formula}, {u"A2", u"=NA()", names::Formula}, {u"B1", 1.0}},
+              3,
+              1,
+              2,
+              0.5},
+             {"ten inputs and three formulas, a ratio of 3.333333",
+              {{u"A1:A10", 1.0}, {u"B1:B3", u"=A1", names::Formula}},
+              13,
+              10,
+              3,
+              3.333333},
+             {"fifty inputs and eight formulas, a ratio of 6.25",
+              {{u"A1:E10", 1.0}, {u"G1:G8", u"=A1", names::Formula}},
+              58,
+              50,
+              8,
+              6.25},
+         }) {
+        CAPTURE(contents.are);
+        ToolRun run;
+        const Object book = run.reopened(run.add_book(), "kinds.ods");
+        const Object sheet = book.get(names::Worksheets, 1);
+        for (const Entry& entry : contents.entries)
+            sheet.get(names::Range, entry.address).put(entry.property, entry.content);
         run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 0, 0, 0, 0));
-    }
-    SUBCASE("constants of every kind, zero and error values included") {
-        put(sheet, u"A1", 0.0);
-        put(sheet, u"A2", u"text");
-        put(sheet, u"A3", true);
-        put(sheet, u"A4", Date{45000.0});
-        put(sheet, u"C9", u"'123");
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 5, 5, 0, 0));
-    }
-    SUBCASE("a formula that gives an empty text is a formula and no used cell") {
-        sheet.get(names::Range, u"A1").put(names::Formula, u"=IF(1=1,\"\",2)");
-        sheet.get(names::Range, u"A2").put(names::Formula, u"=1+1");
-        put(sheet, u"A3", 4.0);
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 2, 1, 2, 0.5));
-    }
-    SUBCASE("an array formula counts in every cell of its range") {
-        put(sheet, u"A1:A3", 2.0);
-        sheet.get(names::Range, u"C1:C3").put(names::FormulaArray, u"=A1:A3*2");
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 6, 3, 3, 1));
-    }
-    SUBCASE("a text that starts with an equals sign counts as a formula") {
-        put(sheet, u"A1", u"'=not computed");
-        put(sheet, u"A2", u"plain");
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 2, 1, 1, 1));
-    }
-    SUBCASE("formulas that fail are used cells") {
-        sheet.get(names::Range, u"A1").put(names::Formula, u"=1/0");
-        sheet.get(names::Range, u"A2").put(names::Formula, u"=NA()");
-        put(sheet, u"B1", 1.0);
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 3, 1, 2, 0.5));
-    }
-    SUBCASE("ten inputs and three formulas are a ratio of 3.333333") {
-        put(sheet, u"A1:A10", 1.0);
-        sheet.get(names::Range, u"B1:B3").put(names::Formula, u"=A1");
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 13, 10, 3, 3.333333));
-    }
-    SUBCASE("fifty inputs and eight formulas are a ratio of 6.25") {
-        put(sheet, u"A1:E10", 1.0);
-        sheet.get(names::Range, u"G1:G8").put(names::Formula, u"=A1");
-        run.call(u"UTWorSum", check_all);
-        check_row(run, 6, record(u"kinds.ods", u"Sheet1", 58, 50, 8, 6.25));
+        check_row(run, 6,
+                  record(u"kinds.ods", u"Sheet1", contents.used, contents.inputs, contents.formulas, contents.ratio));
     }
 }
 

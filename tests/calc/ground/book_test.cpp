@@ -63,14 +63,18 @@ Object book_of_three(const Calc& calc) {
     return book;
 }
 
-}  // namespace
-
-TEST_CASE("what is held of a sheet that the user deletes never reads the one in its place") {
+struct ThreeSheets {
     const Calc calc;
     const Object book = book_of_three(calc);
-    const Held one(book.get(names::Worksheets, 1));
-    const Held two(book.get(names::Worksheets, 2));
-    const Held three(book.get(names::Worksheets, 3));
+    const Object sheets = book.get(names::Worksheets);
+    const Held one{sheets.get(names::Item, 1)};
+    const Held two{sheets.get(names::Item, 2)};
+    const Held three{sheets.get(names::Item, 3)};
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(ThreeSheets, "what is held of a sheet that the user deletes never reads the one in its place") {
     remove_by_hand("Two");
     CHECK(two.is_gone());
     CHECK(one.is_there());
@@ -82,12 +86,7 @@ TEST_CASE("what is held of a sheet that the user deletes never reads the one in 
     CHECK(one.cell.get(names::Value) == u"One");
 }
 
-TEST_CASE("a deletion that is undone brings the sheet back, for those who held it too") {
-    const Calc calc;
-    const Object book = book_of_three(calc);
-    const Held one(book.get(names::Worksheets, 1));
-    const Held two(book.get(names::Worksheets, 2));
-    const Held three(book.get(names::Worksheets, 3));
+TEST_CASE_FIXTURE(ThreeSheets, "a deletion that is undone brings the sheet back, for those who held it too") {
     two.sheet.call(names::Delete);
     CHECK(two.is_gone());
     undo();
@@ -101,11 +100,7 @@ TEST_CASE("a deletion that is undone brings the sheet back, for those who held i
     CHECK(book.get(names::Worksheets, u"Two").get(names::Range, u"A1").get(names::Value) == u"Two");
 }
 
-TEST_CASE("a sheet whose making is undone is gone") {
-    const Calc calc;
-    const Object book = book_of_three(calc);
-    const Held two(book.get(names::Worksheets, 2));
-    const Object sheets = book.get(names::Worksheets);
+TEST_CASE_FIXTURE(ThreeSheets, "a sheet whose making is undone is gone") {
     const Held fresh(sheets.call(names::Add, two.sheet));
     CHECK(fresh.is_there());
     undo();
@@ -115,11 +110,7 @@ TEST_CASE("a sheet whose making is undone is gone") {
     CHECK(two.cell.get(names::Value) == u"Two");
 }
 
-TEST_CASE("a sheet that is moved or renamed stays the same") {
-    const Calc calc;
-    const Object book = book_of_three(calc);
-    const Held one(book.get(names::Worksheets, 1));
-    const Held three(book.get(names::Worksheets, 3));
+TEST_CASE_FIXTURE(ThreeSheets, "a sheet that is moved or renamed stays the same") {
     three.sheet.call(MemberName(u"Move"), one.sheet);
     three.sheet.put(names::Name, u"First");
     CHECK(one.is_there());
