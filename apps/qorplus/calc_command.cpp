@@ -12,6 +12,7 @@
 #include "ground/product.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
+#include "hosts/calc/office/process/start_variable.hpp"
 #include "platform/user_folders.hpp"
 
 namespace qor::cli {
@@ -22,15 +23,6 @@ namespace fs = std::filesystem;
 bool is_set(const char* variable) {
     const char* value = std::getenv(variable);
     return value && *value;
-}
-
-std::string file_url(const fs::path& path) {
-    std::string url = "file://";
-    for (const char c : path.native()) {
-        const bool plain = std::isalnum(static_cast<unsigned char>(c)) || std::strchr("/-._~", c);
-        url += plain ? std::string(1, c) : fmt::format("%{:02X}", static_cast<unsigned char>(c));
-    }
-    return url;
 }
 
 // LibreOffice takes its bundled extensions from one folder: its own, and ours beside them.
@@ -60,8 +52,8 @@ void become_calc(const std::vector<std::string>& files) {
                                        "--calc",
                                        "--norestore",
                                        "--nologo",
-                                       "-env:UserInstallation=" + file_url(own / "libreoffice"),
-                                       "-env:BUNDLED_EXTENSIONS=" + file_url(extensions)};
+                                       "-env:UserInstallation=" + calc::address_in_variable(own / "libreoffice"),
+                                       "-env:BUNDLED_EXTENSIONS=" + calc::address_in_variable(extensions)};
     for (const std::string& file : files) arguments.push_back(fs::absolute(file));
     std::vector<char*> pointers;
     pointers.reserve(arguments.size() + 1);

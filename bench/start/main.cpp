@@ -21,6 +21,7 @@
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/office/process/office_location.hpp"
 #include "hosts/calc/office/process/office_process.hpp"
+#include "hosts/calc/office/process/start_variable.hpp"
 #include "hosts/calc/uno/ref.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "tests/batch/virtual_display.hpp"
@@ -49,10 +50,10 @@ class Called final : public cppu::WeakImplHelper1<css::awt::XCallback> {
 };
 
 // When the main thread next has nothing else to do.
-void wait_until_free(const css::uno::Reference<css::uno::XComponentContext>& context) {
+void wait_until_free(const calc::Context& context) {
     const rtl::Reference<Called> called(new Called);
     std::future<void> done = called->done.get_future();
-    css::awt::AsyncCallback::create(context)->addCallback(called.get(), {});
+    css::awt::AsyncCallback::create(context.reference())->addCallback(called.get(), {});
     if (done.wait_for(longest_start) != std::future_status::ready) throw calc::OfficeError("Calc is never free");
 }
 
@@ -87,7 +88,7 @@ double processor_time_of(const fs::path& process) {
     return (user + system) / static_cast<double>(::sysconf(_SC_CLK_TCK));
 }
 
-bool has_menu(const css::uno::Reference<css::uno::XComponentContext>& context, sal_Int32 entries) {
+bool has_menu(const calc::Context& context, sal_Int32 entries) {
     const calc::ModuleUi ui(context);
     return ui.manager()->getSettings(calc::to_uno(calc::menu_bar_url), false)->getCount() >= entries;
 }
@@ -102,8 +103,8 @@ Measure start(const fs::path& folder, const fs::path& extensions, sal_Int32 menu
                      "--nologo",
                      "--nofirststartwizard",
                      "--accept=pipe,name=" + pipe + ";urp;",
-                     "-env:UserInstallation=file://" + (folder / "profile").string(),
-                     "-env:BUNDLED_EXTENSIONS=file://" + extensions.string()};
+                     "-env:UserInstallation=" + calc::address_in_variable(folder / "profile"),
+                     "-env:BUNDLED_EXTENSIONS=" + calc::address_in_variable(extensions)};
     how.environment = {"SAL_USE_VCLPLUGIN=gtk3",
                        "NO_AT_BRIDGE=1",
                        "LC_ALL=C.UTF-8",
@@ -117,7 +118,7 @@ Measure start(const fs::path& folder, const fs::path& extensions, sal_Int32 menu
         if (process.ends_within(5ms) || Clock::now() - begin > longest_start)
             throw calc::OfficeError("Calc does not start");
         const auto context = calc::office_at_pipe(how.program, pipe);
-        if (!context.is() || !css::frame::Desktop::create(context)->getCurrentComponent().is()) continue;
+        if (!context || !css::frame::Desktop::create(context.reference())->getCurrentComponent().is()) continue;
         if (!has_menu(context, menus)) continue;
         wait_until_free(context);
         measure.seconds = std::chrono::duration<double>(Clock::now() - begin).count();
@@ -125,7 +126,7 @@ Measure start(const fs::path& folder, const fs::path& extensions, sal_Int32 menu
         measure.processor = processor_time_of(own);
         std::this_thread::sleep_for(2s);
         measure.megabytes = megabytes_of(own);
-        css::frame::Desktop::create(context)->terminate();
+        css::frame::Desktop::create(context.reference())->terminate();
     }
     process.ends_within(20s);
     return measure;

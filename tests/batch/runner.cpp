@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <com/sun/star/beans/NamedValue.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/task/XJob.hpp>
 #include <filesystem>
 #include <fstream>
@@ -19,6 +18,7 @@
 #include "hosts/calc/office/process/office_location.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
+#include "hosts/calc/uno/service.hpp"
 #include "platform/text.hpp"
 #include "tests/support/temporary_folder.hpp"
 
@@ -56,10 +56,8 @@ std::int32_t run_batch(calc::PrivateOffice& office, const fs::path& report, std:
     std::ranges::transform(arguments, passed.getArray(), text);
     std::int32_t exit_code = failed_without_report;
     office.work([&] {
-        const auto& context = office.context();
-        const css::uno::Reference<css::task::XJob> batch(
-            context->getServiceManager()->createInstanceWithContext(QOR_BATCH_SERVICE, context),
-            css::uno::UNO_QUERY_THROW);
+        const auto batch = calc::create_service<css::task::XJob>(office.context(), QOR_BATCH_SERVICE);
+        if (!batch) throw calc::OfficeError("LibreOffice cannot load the batch");
         exit_code = calc::value_of<sal_Int32>(batch->execute(calc::sequence_of<css::beans::NamedValue>(
             {{"report", css::uno::Any(text(report.native()))}, {"arguments", css::uno::Any(passed)}})));
     });

@@ -8,9 +8,10 @@
 #include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
-#include <osl/file.hxx>
 
 #include "hosts/calc/uno/text.hpp"
+#include "platform/file_address.hpp"
+#include "platform/files.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc::tests {
@@ -23,9 +24,7 @@ namespace table = com::sun::star::table;
 using rtl::OUString;
 
 OUString file_url(const std::filesystem::path& path) {
-    OUString url;
-    osl::FileBase::getFileURLFromSystemPath(to_uno(from_utf8(path.native())), url);
-    return url;
+    return to_uno(address_of_path(path_text(path)));
 }
 
 uno::Reference<sheet::XSpreadsheetDocument> load(const OUString& url, const Context& context) {

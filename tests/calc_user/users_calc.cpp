@@ -130,7 +130,7 @@ UsersCalc::~UsersCalc() {
 }
 
 css::uno::Reference<css::uno::XComponentContext> UsersCalc::context() const {
-    return office_at_pipe(office_program_folder(), pipe_);
+    return office_at_pipe(office_program_folder(), pipe_).reference();
 }
 
 void UsersCalc::key(const std::string& name) const {

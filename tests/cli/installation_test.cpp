@@ -40,7 +40,7 @@ class OtherHome {
 // 0.2 if the add-in is there, repairs the formula and computes it.
 std::string shown_by_calc() {
     const calc::PrivateOffice users(calc::office_program_folder(), {}, calc::Profile::of_user);
-    return calc::tests::CalcDocument(users.context(), QOR_FOREIGN_WORKBOOK).shown("D1");
+    return calc::tests::CalcDocument(users.context().reference(), QOR_FOREIGN_WORKBOOK).shown("D1");
 }
 
 }  // namespace

@@ -4,13 +4,13 @@
 #include <array>
 #include <chrono>
 #include <com/sun/star/beans/NamedValue.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/task/XJob.hpp>
 #include <csignal>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <thread>
 
+#include "hosts/calc/uno/service.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
 #include "tests/cli/calc_fixture.hpp"
@@ -64,10 +64,8 @@ json play_in_office(const json& script, const Workplace& place) {
     const test::TemporaryFolder temporary;
     const std::array arguments{named_text("Script", script.dump()), named_text("Folder", place.path()),
                                named_text("TemporaryFolder", temporary.path), named_text("HiddenName", ".writing")};
-    const uno::Reference<com::sun::star::task::XJob> session(
-        office().context()->getServiceManager()->createInstanceWithContext("com.ombrel.qorplus.Session",
-                                                                           office().context()),
-        uno::UNO_QUERY_THROW);
+    const auto session =
+        calc::create_service<com::sun::star::task::XJob>(office().context(), "com.ombrel.qorplus.Session");
     rtl::OUString answer;
     session->execute({arguments.data(), static_cast<sal_Int32>(arguments.size())}) >>= answer;
     return json::parse(to_utf8(calc::view_of(answer)));

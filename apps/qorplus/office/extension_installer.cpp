@@ -7,19 +7,21 @@
 #include <com/sun/star/task/XInteractionHandler.hpp>
 #include <com/sun/star/ucb/XCommandEnvironment.hpp>
 #include <cppuhelper/implbase2.hxx>
-#include <osl/file.hxx>
+#include <rtl/ref.hxx>
 
 #include "hosts/calc/office/process/office_error.hpp"
 #include "hosts/calc/uno/text.hpp"
-#include "platform/text.hpp"
+#include "platform/file_address.hpp"
+#include "platform/files.hpp"
 
 namespace qor::cli {
 namespace {
 
-namespace deployment = com::sun::star::deployment;
-namespace task = com::sun::star::task;
-namespace ucb = com::sun::star::ucb;
-namespace uno = com::sun::star::uno;
+namespace deployment = css::deployment;
+namespace task = css::task;
+namespace ucb = css::ucb;
+namespace uno = css::uno;
+using calc::Ref;
 
 const rtl::OUString& identifier() {
     static const rtl::OUString text("com.ombrel.qorplus");
@@ -37,42 +39,43 @@ class Approve final : public cppu::WeakImplHelper2<ucb::XCommandEnvironment, tas
     uno::Reference<task::XInteractionHandler> SAL_CALL getInteractionHandler() override { return this; }
     uno::Reference<ucb::XProgressHandler> SAL_CALL getProgressHandler() override { return {}; }
     void SAL_CALL handle(const uno::Reference<task::XInteractionRequest>& request) override {
-        for (const auto& answer : request->getContinuations()) {
-            const uno::Reference<task::XInteractionApprove> approve(answer, uno::UNO_QUERY);
-            if (approve.is()) return approve->select();
+        const Ref question{request};
+        for (const auto& answer : question->getContinuations()) {
+            if (const Ref<task::XInteractionApprove> approve{Ref{answer}}) return approve->select();
         }
     }
 };
 
-uno::Reference<deployment::XPackage> installed(const uno::Reference<deployment::XExtensionManager>& manager,
-                                               const uno::Reference<ucb::XCommandEnvironment>& environment) {
+using Manager = Ref<deployment::XExtensionManager>;
+
+Ref<deployment::XPackage> installed(const Manager& manager, const rtl::Reference<Approve>& environment) {
     try {
-        return manager->getDeployedExtension(repository(), identifier(), rtl::OUString(), environment);
-    } catch (const com::sun::star::lang::IllegalArgumentException&) {
+        return manager->getDeployedExtension(repository(), identifier(), rtl::OUString(), environment.get());
+    } catch (const css::lang::IllegalArgumentException&) {
         return {};  // the answer for an extension that is not there
     }
 }
 
 }  // namespace
 
-void add_extension(const uno::Reference<uno::XComponentContext>& context, const std::filesystem::path& package) {
-    const auto manager = deployment::ExtensionManager::get(context);
-    const uno::Reference<ucb::XCommandEnvironment> environment(new Approve);
-    rtl::OUString url;
-    osl::FileBase::getFileURLFromSystemPath(calc::to_uno(from_utf8(package.native())), url);
-    manager->addExtension(url, {}, repository(), manager->createAbortChannel(), environment);
-    const auto there = installed(manager, environment);
-    if (!there.is()) throw calc::OfficeError("LibreOffice has not kept the extension");
-    const auto in_use = there->isRegistered(manager->createAbortChannel(), environment);
+void add_extension(const calc::Context& context, const std::filesystem::path& package) {
+    const Manager manager{deployment::ExtensionManager::get(context.reference())};
+    const rtl::Reference<Approve> environment(new Approve);
+    manager->addExtension(calc::to_uno(address_of_path(path_text(package))), {}, repository(),
+                          manager->createAbortChannel(), environment.get());
+    const Ref there = installed(manager, environment);
+    if (!there) throw calc::OfficeError("LibreOffice has not kept the extension");
+    const auto in_use = there->isRegistered(manager->createAbortChannel(), environment.get());
     if (!in_use.IsPresent || !in_use.Value.Value) throw calc::OfficeError("LibreOffice cannot use the extension");
 }
 
-bool remove_extension(const uno::Reference<uno::XComponentContext>& context) {
-    const auto manager = deployment::ExtensionManager::get(context);
-    const uno::Reference<ucb::XCommandEnvironment> environment(new Approve);
-    if (!installed(manager, environment).is()) return false;
-    manager->removeExtension(identifier(), rtl::OUString(), repository(), manager->createAbortChannel(), environment);
-    if (installed(manager, environment).is()) throw calc::OfficeError("LibreOffice has kept the extension");
+bool remove_extension(const calc::Context& context) {
+    const Manager manager{deployment::ExtensionManager::get(context.reference())};
+    const rtl::Reference<Approve> environment(new Approve);
+    if (!installed(manager, environment)) return false;
+    manager->removeExtension(identifier(), rtl::OUString(), repository(), manager->createAbortChannel(),
+                             environment.get());
+    if (installed(manager, environment)) throw calc::OfficeError("LibreOffice has kept the extension");
     return true;
 }
 

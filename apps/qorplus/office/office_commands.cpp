@@ -1,7 +1,6 @@
 #include "apps/qorplus/office/office_commands.hpp"
 
 #include <com/sun/star/beans/NamedValue.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/task/XJob.hpp>
 
 #include <array>
@@ -11,15 +10,14 @@
 #include "apps/qorplus/usage_error.hpp"
 #include "hosts/calc/office/private_office.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
+#include "hosts/calc/uno/service.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "platform/text.hpp"
 
 namespace qor::cli {
 namespace {
 
-namespace beans = com::sun::star::beans;
-namespace task = com::sun::star::task;
-namespace uno = com::sun::star::uno;
+namespace beans = css::beans;
 using calc::OfficeError;
 using calc::OfficeFiles;
 using calc::PrivateOffice;
@@ -27,17 +25,15 @@ using calc::Profile;
 using nlohmann::json;
 
 beans::NamedValue named_text(const char* name, const std::string& text) {
-    return {rtl::OUString::createFromAscii(name), uno::Any(calc::to_uno(from_utf8(text)))};
+    return {rtl::OUString::createFromAscii(name), css::uno::Any(calc::to_uno(from_utf8(text)))};
 }
 
 // The session in the office plays the script: from here, a call would cost a hundred times as much.
 json answer_of_session(PrivateOffice& office, const std::string& script, const std::filesystem::path& folder) {
     json answer;
     office.work([&] {
-        const uno::Reference<task::XJob> session(office.context()->getServiceManager()->createInstanceWithContext(
-                                                     "com.ombrel.qorplus.Session", office.context()),
-                                                 uno::UNO_QUERY);
-        if (!session.is()) throw OfficeError("LibreOffice cannot load the add-in; this program is not whole");
+        const auto session = calc::create_service<css::task::XJob>(office.context(), "com.ombrel.qorplus.Session");
+        if (!session) throw OfficeError("LibreOffice cannot load the add-in; this program is not whole");
         const std::array arguments{named_text("Script", script), named_text("Folder", folder.native()),
                                    named_text("TemporaryFolder", office.temporary_folder().native()),
                                    named_text("HiddenName", office.hidden_folder_name())};

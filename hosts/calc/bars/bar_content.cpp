@@ -14,7 +14,6 @@ namespace {
 
 using css::container::XIndexAccess;
 using css::container::XIndexContainer;
-using css::uno::Reference;
 using rtl::OUString;
 namespace style = css::ui::ItemStyle;
 
@@ -32,7 +31,7 @@ struct Item {
     std::u16string label;
     sal_Int16 type = css::ui::ItemType::DEFAULT;
     bool visible = true;
-    Reference<XIndexAccess> children;
+    Ref<XIndexAccess> children;
 
     bool is_separator() const { return type != css::ui::ItemType::DEFAULT; }
     bool is_own() const { return command.starts_with(own_command_prefix); }
@@ -46,7 +45,7 @@ Item item_at(const Ref<XIndexAccess>& content, sal_Int32 place) {
         if (property.Name == "Label" && (property.Value >>= text)) item.label = from_uno(text);
         if (property.Name == "Type") property.Value >>= item.type;
         if (property.Name == "IsVisible") property.Value >>= item.visible;
-        if (property.Name == "ItemDescriptorContainer") property.Value >>= item.children;
+        if (property.Name == "ItemDescriptorContainer") item.children = Ref<XIndexAccess>(property.Value);
     }
     return item;
 }
@@ -62,7 +61,7 @@ sal_Int16 style_of(const Control& control) {
     return is_empty(control.face) ? style::TEXT : style::ICON;
 }
 
-PropertyValues described(BarKind kind, const Control& control, const Reference<XIndexAccess>& children) {
+PropertyValues described(BarKind kind, const Control& control, const Ref<XIndexAccess>& children) {
     const bool on_menu = kind == BarKind::menu_bar;
     const std::u16string label = on_menu ? office_label(control.caption) : plain_caption(control.caption);
     std::vector<css::beans::PropertyValue> properties{named_value("CommandURL", to_uno(control.command)),
@@ -70,7 +69,7 @@ PropertyValues described(BarKind kind, const Control& control, const Reference<X
                                                       named_value("Type", sal_Int16(css::ui::ItemType::DEFAULT)),
                                                       named_value("Style", on_menu ? sal_Int16(0) : style_of(control))};
     if (!control.tool_tip.empty()) properties.push_back(named_value("Tooltip", to_uno(control.tool_tip)));
-    if (children.is()) properties.push_back(named_value("ItemDescriptorContainer", children));
+    if (children) properties.push_back(named_value("ItemDescriptorContainer", children.reference()));
     return {properties.data(), static_cast<sal_Int32>(properties.size())};
 }
 
@@ -93,8 +92,7 @@ struct Insertion {
     const ModuleUi& ui;
     Ref<css::lang::XSingleComponentFactory> factory;
 
-    void insert(BarKind kind, const Reference<XIndexContainer>& content, const Controls& controls) const {
-        const Ref items{content};
+    void insert(BarKind kind, const Ref<XIndexContainer>& items, const Controls& controls) const {
         const Ref<XIndexAccess> present(items);
         for (auto one = controls.begin(); one != controls.end(); ++one) {
             const Control& control = **one;
@@ -103,7 +101,8 @@ struct Insertion {
                 continue;
             }
             if (!control.visible) continue;
-            const Reference<XIndexAccess> children = control.type == ControlType::popup ? entries_of(control) : nullptr;
+            const Ref<XIndexAccess> children =
+                control.type == ControlType::popup ? entries_of(control) : Ref<XIndexAccess>();
             sal_Int32 place = place_before(present, one, controls.end());
             if (control.begin_group && place > 0) items->insertByIndex(place++, css::uno::Any(separator()));
             items->insertByIndex(place, css::uno::Any(described(kind, control, children)));
@@ -115,23 +114,22 @@ struct Insertion {
         if (!contains_own(popup.children)) return;
         for (sal_Int32 place = 0; place < present->getCount(); ++place) {
             const Item item = item_at(present, place);
-            const Reference<XIndexContainer> children(item.children, css::uno::UNO_QUERY);
-            if (item.command == popup.command && children.is()) insert(kind, children, popup.children);
+            const Ref<XIndexContainer> children(item.children);
+            if (item.command == popup.command && children) insert(kind, children, popup.children);
         }
     }
 
-    Reference<XIndexAccess> entries_of(const Control& popup) const {
-        const Reference<XIndexContainer> entries(factory->createInstanceWithContext(ui.context()), css::uno::UNO_QUERY);
+    Ref<XIndexAccess> entries_of(const Control& popup) const {
+        const Ref<XIndexContainer> entries(Ref{factory->createInstanceWithContext(ui.context().reference())});
         insert(BarKind::menu_bar, entries, popup.children);
-        return {entries, css::uno::UNO_QUERY};
+        return Ref<XIndexAccess>(entries);
     }
 };
 
 }  // namespace
 
-Controls built_in_controls(const ModuleUi& ui, const Reference<XIndexAccess>& content) {
+Controls built_in_controls(const ModuleUi& ui, const Ref<XIndexAccess>& items) {
     Controls result;
-    const Ref items(content);
     bool begins_group = false;
     for (sal_Int32 place = 0; place < items->getCount(); ++place) {
         const Item item = item_at(items, place);
@@ -145,7 +143,7 @@ Controls built_in_controls(const ModuleUi& ui, const Reference<XIndexAccess>& co
         control->command = item.command;
         const auto menu = menu_ids.find(control->command);
         control->id = menu == menu_ids.end() ? 0 : menu->second;
-        control->type = item.children.is() ? ControlType::popup : ControlType::button;
+        control->type = item.children ? ControlType::popup : ControlType::button;
         control->caption = caption_of_label(item.label.empty() ? ui.label_of(item.command) : item.label);
         control->visible = item.visible;
         control->begin_group = std::exchange(begins_group, false);
@@ -155,20 +153,19 @@ Controls built_in_controls(const ModuleUi& ui, const Reference<XIndexAccess>& co
     return result;
 }
 
-void remove_own(const Reference<XIndexContainer>& content) {
-    const Ref items{content};
+void remove_own(const Ref<XIndexContainer>& items) {
     for (sal_Int32 place = items->getCount(); place-- > 0;) {
         const Item item = item_at(Ref<XIndexAccess>(items), place);
         if (item.is_own()) {
             items->removeByIndex(place);
-        } else if (const Reference<XIndexContainer> children{item.children, css::uno::UNO_QUERY}; children.is()) {
+        } else if (const Ref<XIndexContainer> children{item.children}) {
             remove_own(children);
         }
     }
 }
 
-void insert_own(const ModuleUi& ui, BarKind kind, const Reference<XIndexContainer>& content, const Controls& controls) {
-    Insertion{ui, Ref<css::lang::XSingleComponentFactory>(Ref{content})}.insert(kind, content, controls);
+void insert_own(const ModuleUi& ui, BarKind kind, const Ref<XIndexContainer>& content, const Controls& controls) {
+    Insertion{ui, Ref<css::lang::XSingleComponentFactory>(content)}.insert(kind, content, controls);
 }
 
 }  // namespace qor::calc

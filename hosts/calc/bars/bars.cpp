@@ -24,7 +24,7 @@ std::u16string last_part(const std::u16string& url) {
 
 }  // namespace
 
-std::shared_ptr<Bars> Bars::of(const css::uno::Reference<css::uno::XComponentContext>& context) {
+std::shared_ptr<Bars> Bars::of(const Context& context) {
     static std::weak_ptr<Bars> bars;
     if (std::shared_ptr<Bars> present = bars.lock()) return present;
     auto made = std::make_shared<Bars>(context);
@@ -91,9 +91,9 @@ Controls& Bars::controls(Bar& bar) {
 }
 
 Controls& Bars::controls(Control& popup) {
-    if (popup.unread_children.is()) {
+    if (popup.unread_children) {
         popup.children = built_in_controls(ui_, popup.unread_children);
-        popup.unread_children.clear();
+        popup.unread_children = {};
     }
     return popup.children;
 }
@@ -176,8 +176,7 @@ void Bars::flush_built_in(Bar& bar) {
         manager->removeSettings(url);  // to what the office is shipped with
         return;
     }
-    const css::uno::Reference<css::container::XIndexContainer> content(manager->getSettings(url, true),
-                                                                       css::uno::UNO_QUERY);
+    const Ref<css::container::XIndexContainer> content(Ref{manager->getSettings(url, true)});
     remove_own(content);
     insert_own(ui_, bar.kind, content, bar.controls);
     ui_.set_content(bar.url, content);
@@ -186,8 +185,8 @@ void Bars::flush_built_in(Bar& bar) {
 void Bars::flush_own(Bar& bar) {
     const Ref content{ui_.manager()->createSettings()};
     set_property(content, "UIName", to_uno(bar.name));
-    insert_own(ui_, bar.kind, content.reference(), bar.controls);
-    ui_.set_content(bar.url, content.reference());
+    insert_own(ui_, bar.kind, content, bar.controls);
+    ui_.set_content(bar.url, content);
     if (std::exchange(bar.shown, true)) return;
     BarPlace place = place_of(bar);
     for (const Ref<css::frame::XLayoutManager>& layout : ui_.layouts()) place.show_in(layout);

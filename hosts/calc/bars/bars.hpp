@@ -37,9 +37,9 @@ using BarPointer = std::shared_ptr<Bar>;
 class Bars : public std::enable_shared_from_this<Bars> {
   public:
     // The ones of the office; made at the first call.
-    static std::shared_ptr<Bars> of(const css::uno::Reference<css::uno::XComponentContext>& context);
+    static std::shared_ptr<Bars> of(const Context& context);
 
-    explicit Bars(const css::uno::Reference<css::uno::XComponentContext>& context) : ui_(context) {}
+    explicit Bars(const Context& context) : ui_(context) {}
 
     // The menu bar first, then the office's toolbars, then ours in the order of their coming.
     const std::vector<BarPointer>& all();

@@ -34,7 +34,8 @@ class CommandDispatch final : public cppu::WeakImplHelper1<XDispatch> {
         state.Source = static_cast<cppu::OWeakObject*>(this);
         state.FeatureURL = url;
         state.IsEnabled = bars && bars->is_enabled(view_of(url.Complete));
-        listener->statusChanged(state);
+        const Ref asking{listener};
+        asking->statusChanged(state);
     }
     void SAL_CALL removeStatusListener(const Reference<css::frame::XStatusListener>&, const css::util::URL&) override {}
 
@@ -50,7 +51,7 @@ class Interceptor final
     Reference<XDispatch> SAL_CALL queryDispatch(const css::util::URL& url, const OUString& target,
                                                 sal_Int32 flags) override {
         if (view_of(url.Complete).starts_with(own_command_prefix)) return dispatch_;
-        return next_.is() ? next_->queryDispatch(url, target, flags) : nullptr;
+        return next_ ? next_->queryDispatch(url, target, flags) : nullptr;
     }
     Sequence<Reference<XDispatch>> SAL_CALL
     queryDispatches(const Sequence<css::frame::DispatchDescriptor>& requests) override {
@@ -60,9 +61,9 @@ class Interceptor final
         });
         return result;
     }
-    Reference<XDispatchProvider> SAL_CALL getSlaveDispatchProvider() override { return next_; }
+    Reference<XDispatchProvider> SAL_CALL getSlaveDispatchProvider() override { return next_.reference(); }
     void SAL_CALL setSlaveDispatchProvider(const Reference<XDispatchProvider>& next) override { next_ = next; }
-    Reference<XDispatchProvider> SAL_CALL getMasterDispatchProvider() override { return previous_; }
+    Reference<XDispatchProvider> SAL_CALL getMasterDispatchProvider() override { return previous_.reference(); }
     void SAL_CALL setMasterDispatchProvider(const Reference<XDispatchProvider>& previous) override {
         previous_ = previous;
     }
@@ -73,8 +74,8 @@ class Interceptor final
 
   private:
     Reference<XDispatch> dispatch_;
-    Reference<XDispatchProvider> next_;
-    Reference<XDispatchProvider> previous_;
+    Ref<XDispatchProvider> next_;
+    Ref<XDispatchProvider> previous_;
 };
 
 }  // namespace

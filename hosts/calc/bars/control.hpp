@@ -9,13 +9,14 @@
 #include <vector>
 
 #include "automation/host_numbers.hpp"
+#include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
 
 // One picture for menus and small toolbars, one for large toolbars and one for very large ones; all empty for no face.
-using ButtonFace = std::array<com::sun::star::uno::Reference<com::sun::star::graphic::XGraphic>, 3>;
+using ButtonFace = std::array<Ref<css::graphic::XGraphic>, 3>;
 inline bool is_empty(const ButtonFace& face) {
-    return !face.front().is();
+    return !face.front();
 }
 
 struct Control;
@@ -46,7 +47,7 @@ struct Control {
 
     // Of a popup. What a popup of the office holds is read at first use.
     Controls children;
-    com::sun::star::uno::Reference<com::sun::star::container::XIndexAccess> unread_children;
+    Ref<css::container::XIndexAccess> unread_children;
 
     bool deleted = false;
 };

@@ -27,7 +27,6 @@ namespace {
 
 using css::uno::Reference;
 using css::uno::Sequence;
-using css::uno::XComponentContext;
 using rtl::OUString;
 
 constexpr char service_name[] = "com.ombrel.qorplus.ToolbarList";
@@ -39,7 +38,7 @@ class ListController final
                                    css::lang::XComponent, css::frame::XStatusListener, css::awt::XItemListener>,
       public ListOnToolbar {
   public:
-    explicit ListController(Reference<XComponentContext> context) : context_(std::move(context)) {}
+    explicit ListController(Context context) : context_(std::move(context)) {}
 
     // What the office calls.
     void SAL_CALL initialize(const Sequence<css::uno::Any>& arguments) override {
@@ -51,9 +50,9 @@ class ListController final
         }
     }
     Reference<css::awt::XWindow> SAL_CALL createItemWindow(const Reference<css::awt::XWindow>& parent) override {
-        Reference<css::awt::XWindow> window;
+        Ref<css::awt::XWindow> window;
         attempt([&] { guarded([&] { window = make_list(parent); }); });
-        return window;
+        return window.reference();
     }
     Reference<css::awt::XWindow> SAL_CALL createPopupWindow() override { return {}; }
     void SAL_CALL execute(sal_Int16) override {}
@@ -100,39 +99,39 @@ class ListController final
     }
 
   private:
-    Reference<css::awt::XWindow> make_list(const Reference<css::awt::XWindow>& parent) {
+    Ref<css::awt::XWindow> make_list(const Ref<css::awt::XWindow>& parent) {
         using css::awt::VclWindowPeerAttribute::DROPDOWN;
         namespace attribute = css::awt::WindowAttribute;
         css::awt::WindowDescriptor description;
         description.Type = css::awt::WindowClass_SIMPLE;
         description.WindowServiceName = "listbox";
-        description.Parent.set(parent, css::uno::UNO_QUERY);
+        description.Parent = Ref<css::awt::XWindowPeer>(parent).reference();
         description.ParentIndex = -1;
         const std::int32_t height = 28;  // of one line; the toolbar fits it in
         description.Bounds = {0, 0, usual_width, height};
         description.WindowAttributes = attribute::SHOW | attribute::BORDER | DROPDOWN;
-        const Ref toolkit{css::awt::Toolkit::create(context_)};
+        const Ref toolkit{css::awt::Toolkit::create(context_.reference())};
         list_ = Ref<css::awt::XListBox>(Ref{toolkit->createWindow(description)});
         list_->setDropDownLineCount(lines_shown);
         bars_ = Bars::of(context_);
         bars_->attach(*this);
         list_->addItemListener(this);
-        return {list_.reference(), css::uno::UNO_QUERY};
+        return Ref<css::awt::XWindow>(list_);
     }
 
-    Reference<XComponentContext> context_;
+    Context context_;
     std::u16string command_;
     Ref<css::awt::XListBox> list_;
     std::shared_ptr<Bars> bars_;
     bool filling_ = false;
 };
 
-Reference<css::uno::XInterface> SAL_CALL make_controller(const Reference<XComponentContext>& context) {
+Reference<css::uno::XInterface> SAL_CALL make_controller(const Reference<css::uno::XComponentContext>& context) {
     return static_cast<cppu::OWeakObject*>(new ListController(context));
 }
 
 // The office makes controllers by the name of a service: ours is made known to it while it runs.
-void offer_service(const Reference<XComponentContext>& context) {
+void offer_service(const Context& context) {
     const OUString name = OUString(service_name);
     const Ref<css::container::XSet> services(Ref{context->getServiceManager()});
     static bool offered = false;
@@ -143,16 +142,16 @@ void offer_service(const Reference<XComponentContext>& context) {
 
 }  // namespace
 
-void register_list(const Reference<XComponentContext>& context, const std::u16string& command) {
+void register_list(const Context& context, const std::u16string& command) {
     offer_service(context);
     const Ref<css::frame::XUIControllerRegistration> controllers(
-        Ref{css::frame::theToolbarControllerFactory::get(context)});
+        Ref{css::frame::theToolbarControllerFactory::get(context.reference())});
     controllers->registerController(to_uno(command), {}, OUString(service_name));
 }
 
-void deregister_list(const Reference<XComponentContext>& context, const std::u16string& command) {
+void deregister_list(const Context& context, const std::u16string& command) {
     const Ref<css::frame::XUIControllerRegistration> controllers(
-        Ref{css::frame::theToolbarControllerFactory::get(context)});
+        Ref{css::frame::theToolbarControllerFactory::get(context.reference())});
     controllers->deregisterController(to_uno(command), {});
 }
 

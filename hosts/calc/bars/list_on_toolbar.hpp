@@ -1,10 +1,10 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <string>
 #include <string_view>
 
 #include "hosts/calc/bars/control.hpp"
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
@@ -19,9 +19,7 @@ class ListOnToolbar {
 };
 
 // From now on the office shows a list where a toolbar has the command.
-void register_list(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
-                   const std::u16string& command);
-void deregister_list(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
-                     const std::u16string& command);
+void register_list(const Context& context, const std::u16string& command);
+void deregister_list(const Context& context, const std::u16string& command);
 
 }  // namespace qor::calc

@@ -35,18 +35,18 @@ bool shows_workbook(const Ref<css::frame::XFrame>& frame) {
 
 }  // namespace
 
-ModuleUi::ModuleUi(css::uno::Reference<css::uno::XComponentContext> context)
+ModuleUi::ModuleUi(Context context)
     : context_(std::move(context)),
-      manager_(css::ui::theModuleUIConfigurationManagerSupplier::get(context_)->getUIConfigurationManager(
-          OUString(calc_module))),
-      window_states_(Ref<css::container::XNameContainer>(
-          css::ui::theWindowStateConfiguration::get(context_)->getByName(OUString(calc_module)))),
-      commands_(Ref<css::container::XNameAccess>(
-          css::frame::theUICommandDescription::get(context_)->getByName(OUString(calc_module)))) {}
+      manager_(Ref(css::ui::theModuleUIConfigurationManagerSupplier::get(context_.reference()))
+                   ->getUIConfigurationManager(OUString(calc_module))),
+      window_states_(
+          Ref(css::ui::theWindowStateConfiguration::get(context_.reference()))->getByName(OUString(calc_module))),
+      commands_(Ref(css::frame::theUICommandDescription::get(context_.reference()))->getByName(OUString(calc_module))) {
+}
 
 std::vector<Ref<css::frame::XFrame>> ModuleUi::frames() const {
     std::vector<Ref<css::frame::XFrame>> result;
-    const Ref desktop{css::frame::Desktop::create(context_)};
+    const Ref desktop{css::frame::Desktop::create(context_.reference())};
     const Ref<css::container::XIndexAccess> all(Ref{desktop->getFrames()});
     for (sal_Int32 place = 0; place < all->getCount(); ++place) {
         Ref<css::frame::XFrame> frame(all->getByIndex(place));
@@ -85,13 +85,12 @@ std::u16string ModuleUi::label_of(const std::u16string& command) const {
     return text_property(value_of<PropertyValues>(commands_->getByName(to_uno(command))), "Label");
 }
 
-void ModuleUi::set_content(const std::u16string& url,
-                           const css::uno::Reference<css::container::XIndexContainer>& content) const {
-    const css::uno::Reference<css::container::XIndexAccess> settings(content, css::uno::UNO_QUERY);
+void ModuleUi::set_content(const std::u16string& url, const Ref<css::container::XIndexContainer>& content) const {
+    const Ref<css::container::XIndexAccess> settings(content);
     if (manager_->hasSettings(to_uno(url))) {
-        manager_->replaceSettings(to_uno(url), settings);
+        manager_->replaceSettings(to_uno(url), settings.reference());
     } else {
-        manager_->insertSettings(to_uno(url), settings);
+        manager_->insertSettings(to_uno(url), settings.reference());
     }
 }
 
@@ -101,9 +100,9 @@ void ModuleUi::set_image(const std::u16string& command, const ButtonFace& face) 
     for (std::size_t place = 0; place < face.size(); ++place) {
         const sal_Int16 size = image_sizes[place];
         if (images->hasImage(size, commands[0])) {
-            images->replaceImages(size, commands, sequence_of({face[place]}));
+            images->replaceImages(size, commands, sequence_of({face[place].reference()}));
         } else {
-            images->insertImages(size, commands, sequence_of({face[place]}));
+            images->insertImages(size, commands, sequence_of({face[place].reference()}));
         }
     }
 }

@@ -7,11 +7,11 @@
 #include <com/sun/star/frame/XLayoutManager.hpp>
 #include <com/sun/star/ui/XImageManager.hpp>
 #include <com/sun/star/ui/XUIConfigurationManager.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <string>
 #include <vector>
 
 #include "hosts/calc/bars/control.hpp"
+#include "hosts/calc/uno/context.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
@@ -25,9 +25,9 @@ inline constexpr std::u16string_view own_command_prefix = u"com.ombrel.qorplus:"
 // stores it in the user's profile.
 class ModuleUi {
   public:
-    explicit ModuleUi(css::uno::Reference<css::uno::XComponentContext> context);
+    explicit ModuleUi(Context context);
 
-    const css::uno::Reference<css::uno::XComponentContext>& context() const noexcept { return context_; }
+    const Context& context() const noexcept { return context_; }
     const Ref<css::ui::XUIConfigurationManager>& manager() const noexcept { return manager_; }
     // By resource, what is remembered of each toolbar's place.
     const Ref<css::container::XNameContainer>& window_states() const noexcept { return window_states_; }
@@ -44,13 +44,12 @@ class ModuleUi {
     std::u16string label_of(const std::u16string& command) const;
 
     // What the menu bar or the toolbar holds in all windows from now on.
-    void set_content(const std::u16string& url,
-                     const css::uno::Reference<css::container::XIndexContainer>& content) const;
+    void set_content(const std::u16string& url, const Ref<css::container::XIndexContainer>& content) const;
     void set_image(const std::u16string& command, const ButtonFace& face) const;
     void remove_image(const std::u16string& command) const;
 
   private:
-    css::uno::Reference<css::uno::XComponentContext> context_;
+    Context context_;
     Ref<css::ui::XUIConfigurationManager> manager_;
     Ref<css::container::XNameContainer> window_states_;
     Ref<css::container::XNameAccess> commands_;

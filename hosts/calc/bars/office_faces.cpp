@@ -18,7 +18,7 @@ constexpr int sizes[] = {16, 24, 32};             // as in ButtonFace
 
 void OfficeFaces::put(std::u16string_view name) {
     guarded([&] {
-        const Ref provider{css::graphic::GraphicProvider::create(context_)};
+        const Ref provider{css::graphic::GraphicProvider::create(context_.reference())};
         ButtonFace face;
         for (std::size_t place = 0; place < face.size(); ++place) {
             const std::span<const std::byte> png = face_png(name, sizes[place]);
@@ -28,7 +28,7 @@ void OfficeFaces::put(std::u16string_view name) {
             }
             const css::uno::Sequence<sal_Int8> bytes(reinterpret_cast<const sal_Int8*>(png.data()),
                                                      static_cast<sal_Int32>(png.size()));
-            const auto stream = css::io::SequenceInputStream::createStreamFromSequence(context_, bytes);
+            const auto stream = css::io::SequenceInputStream::createStreamFromSequence(context_.reference(), bytes);
             face[place] = provider->queryGraphic(sequence_of({named_value("InputStream", stream)}));
         }
         Bars::of(context_)->face_on_clipboard = face;

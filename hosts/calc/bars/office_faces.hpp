@@ -1,7 +1,6 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
-
+#include "hosts/calc/uno/context.hpp"
 #include "platform/face_clipboard.hpp"
 
 namespace qor::calc {
@@ -9,13 +8,12 @@ namespace qor::calc {
 // The faces in the resources. They do not go over the user's clipboard, which keeps what it holds.
 class OfficeFaces final : public FaceClipboard {
   public:
-    explicit OfficeFaces(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context)
-        : context_(std::move(context)) {}
+    explicit OfficeFaces(Context context) : context_(std::move(context)) {}
 
     void put(std::u16string_view name) override;
 
   private:
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    Context context_;
 };
 
 }  // namespace qor::calc

@@ -3,11 +3,11 @@
 #include <com/sun/star/document/XDocumentEventListener.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/frame/theGlobalEventBroadcaster.hpp>
-#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <cppuhelper/implbase2.hxx>
 #include <rtl/ref.hxx>
 
 #include "hosts/calc/bars/bars.hpp"
+#include "hosts/calc/uno/document.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/main_thread.hpp"
 
@@ -22,7 +22,7 @@ class OfficeWatch final
     // A window that is being made is not yet one to work on.
     void SAL_CALL documentEventOccured(const css::document::DocumentEvent& event) override {
         if (event.EventName != "OnViewCreated" || !event.ViewController.is() || !bars_) return;
-        if (!css::uno::Reference<css::sheet::XSpreadsheetDocument>(event.Source, css::uno::UNO_QUERY).is()) return;
+        if (!Document(Ref{event.Source})) return;
         post_to_main_thread(bars_->ui().context(),
                             [weak = std::weak_ptr(bars_), controller = Ref(event.ViewController)] {
                                 const Ref frame{controller->getFrame()};
@@ -46,12 +46,10 @@ class OfficeWatch final
 void keep_until_end(const std::shared_ptr<Bars>& bars) {
     const rtl::Reference<OfficeWatch> watch(new OfficeWatch(bars));
     const auto& context = bars->ui().context();
-    Ref {
-        css::frame::theGlobalEventBroadcaster::get(context)
-        } -> addDocumentEventListener(watch.get());
-    Ref {
-        css::frame::Desktop::create(context)
-        } -> addTerminateListener(watch.get());
+    const Ref broadcaster{css::frame::theGlobalEventBroadcaster::get(context.reference())};
+    broadcaster->addDocumentEventListener(watch.get());
+    const Ref desktop{css::frame::Desktop::create(context.reference())};
+    desktop->addTerminateListener(watch.get());
 }
 
 }  // namespace qor::calc

@@ -16,8 +16,6 @@
 namespace qor::calc {
 namespace {
 
-using Context = css::uno::Reference<css::uno::XComponentContext>;
-
 // The one of this process. Never destroyed: the office's libraries may be gone before ours.
 OfficeCompanion*& running_companion() {
     static OfficeCompanion* companion = nullptr;
@@ -54,7 +52,8 @@ class EndOfOffice final : public cppu::WeakImplHelper1<css::frame::XTerminateLis
 void start_companion(const Context& context) {
     if (running_companion()) return;
     // Before those of the bars and the events, which do not outlive their own end.
-    css::frame::Desktop::create(context)->addTerminateListener(new EndOfOffice(context));
+    const Ref desktop{css::frame::Desktop::create(context.reference())};
+    desktop->addTerminateListener(new EndOfOffice(context));
     running_companion() = new OfficeCompanion(context);
     running_companion()->start();
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
 // The service com.ombrel.qorplus.Companion, a com.sun.star.task.XJob that the office runs when its first window comes.
 // From then on, until the office ends, the add-in is there for the user: its menu, its toolbars, its reactions.
-com::sun::star::uno::Reference<com::sun::star::uno::XInterface> make_companion_service(
-    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context);
+css::uno::Reference<css::uno::XInterface> make_companion_service(const Context& context);
 
 }  // namespace qor::calc

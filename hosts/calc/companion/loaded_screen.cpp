@@ -20,11 +20,12 @@ namespace {
 constexpr const char* library_name = "qorplus-screen.so";
 
 // The X11 id of the window that the user works in; 0 when there is none.
-std::uintptr_t front_window(const css::uno::Reference<css::uno::XComponentContext>& context) {
+std::uintptr_t front_window(const Context& context) {
     std::uintptr_t handle = 0;
     attempt([&] {
         guarded([&] {
-            const Ref frame{css::frame::Desktop::create(context)->getCurrentFrame()};
+            const Ref desktop{css::frame::Desktop::create(context.reference())};
+            const Ref frame{desktop->getCurrentFrame()};
             const Ref<css::awt::XSystemDependentWindowPeer> peer(Ref{frame->getContainerWindow()});
             const auto window =
                 peer->getWindowHandle(css::uno::Sequence<sal_Int8>(16), css::lang::SystemDependent::SYSTEM_XWINDOW);

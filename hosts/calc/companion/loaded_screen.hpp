@@ -1,7 +1,6 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
-
+#include "hosts/calc/uno/context.hpp"
 #include "screens/wx/library/screen_library.hpp"
 
 namespace qor::calc {
@@ -10,8 +9,7 @@ namespace qor::calc {
 // functions, and an office without a screen, need no toolkit. Where it cannot be, a form raises 1004 that says why.
 class LoadedScreen final : public Screen {
   public:
-    explicit LoadedScreen(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context)
-        : context_(std::move(context)) {}
+    explicit LoadedScreen(Context context) : context_(std::move(context)) {}
 
     void show_modal(Form& form) override { screen().show_modal(form); }
     void show_again(Form& form) override { screen().show_again(form); }
@@ -35,7 +33,7 @@ class LoadedScreen final : public Screen {
   private:
     Screen& screen();
 
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    Context context_;
     WindowedScreen loaded_;
 };
 

@@ -31,7 +31,7 @@ void in_undo_step(std::u16string_view title, const std::function<void()>& comman
 
 }  // namespace
 
-OfficeCompanion::OfficeCompanion(const css::uno::Reference<css::uno::XComponentContext>& context)
+OfficeCompanion::OfficeCompanion(const Context& context)
     : context_(context),
       settings_(settings_folder(product::name) / product::settings_file),
       screen_(context),
@@ -86,9 +86,8 @@ void OfficeCompanion::run(const std::function<void()>& work) {
     }
     if (!std::exchange(end_wanted_, false)) return;
     post_to_main_thread(context_, [context = context_] {
-        Ref {
-            css::frame::Desktop::create(context)
-            } -> terminate();
+        const Ref desktop{css::frame::Desktop::create(context.reference())};
+        desktop->terminate();
     });
 }
 

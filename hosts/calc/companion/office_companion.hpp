@@ -1,6 +1,5 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <memory>
 #include <optional>
 
@@ -8,6 +7,7 @@
 #include "hosts/calc/bars/office_faces.hpp"
 #include "hosts/calc/companion/loaded_screen.hpp"
 #include "hosts/calc/events/event_source.hpp"
+#include "hosts/calc/uno/context.hpp"
 #include "platform/ini_settings_store.hpp"
 
 namespace qor::calc {
@@ -18,7 +18,7 @@ class Bars;
 // happens on the main thread.
 class OfficeCompanion {
   public:
-    explicit OfficeCompanion(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context);
+    explicit OfficeCompanion(const Context& context);
     OfficeCompanion(const OfficeCompanion&) = delete;
     OfficeCompanion& operator=(const OfficeCompanion&) = delete;
 
@@ -34,7 +34,7 @@ class OfficeCompanion {
     HostEvents handlers();
     void set_timers();
 
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    Context context_;
     bool end_wanted_ = false;
     IniSettingsStore settings_;
     LoadedScreen screen_;

@@ -19,8 +19,8 @@ std::u16string key_of(std::u16string_view event, const void* object) {
     return std::u16string(event) + std::u16string(place.begin(), place.end());
 }
 
-css::uno::Reference<css::frame::XModel> model_of(const Document& document) {
-    return {document.reference(), css::uno::UNO_QUERY};
+Ref<css::frame::XModel> model_of(const Document& document) {
+    return Ref<css::frame::XModel>(document);
 }
 
 }  // namespace
@@ -36,10 +36,13 @@ EventListener::~EventListener() = default;
 
 void EventListener::begin() {
     office_ = new OfficeListener(queue_->context(), weak_from_this());
-    Ref {
-        css::frame::theGlobalEventBroadcaster::get(queue_->context())
-        } -> addDocumentEventListener(office_.get());
-    host_->desktop()->addTerminateListener(office_.get());
+    using Broadcaster = css::document::XDocumentEventBroadcaster;
+    using Desktop = css::frame::XDesktop;
+    hears_documents_.emplace(Ref{css::frame::theGlobalEventBroadcaster::get(queue_->context().reference())},
+                             &Broadcaster::addDocumentEventListener, &Broadcaster::removeDocumentEventListener,
+                             office_.get());
+    hears_end_.emplace(host_->desktop(), &Desktop::addTerminateListener, &Desktop::removeTerminateListener,
+                       office_.get());
     RunningCommand::at_end([weak = std::weak_ptr(queue_)] {
         if (const std::shared_ptr<EventQueue> queue = weak.lock()) queue->try_again();
     });
@@ -54,19 +57,13 @@ void EventListener::end() {
     queue_->close();
     RunningCommand::at_end({});
     for (const Window& window : std::exchange(windows_, {})) {
-        const Selections selections(Ref{css::uno::Reference<css::frame::XController>(window.controller)});
+        const Selections selections(Ref{window.controller.get()});
         if (!selections) continue;
         // A window that is closing has let go of its listeners.
         attempt([&] { guarded([&] { selections->removeSelectionChangeListener(office.get()); }); });
     }
-    attempt([&] {
-        guarded([&] {
-            Ref {
-                css::frame::theGlobalEventBroadcaster::get(queue_->context())
-                } -> removeDocumentEventListener(office.get());
-            host_->desktop()->removeTerminateListener(office.get());
-        });
-    });
+    hears_documents_.reset();
+    hears_end_.reset();
 }
 
 void EventListener::document_event(std::u16string_view name, const Document& document) {
@@ -82,12 +79,12 @@ void EventListener::document_event(std::u16string_view name, const Document& doc
     } else if (name == u"OnSaveAsDone") {
         tell_later(name, &HostEvents::workbook_saved_as, document);
     } else if (name == u"OnPrepareUnload") {
-        asked_to_close_.emplace_back(model_of(document));
+        asked_to_close_.emplace_back(model_of(document).reference());
         tell_now(handlers_.workbook_closing);
     } else if (name == u"OnUnload") {
         // One that is closed by a program was not asked before.
         const auto asked = std::erase_if(asked_to_close_, [&](const WeakModel& model) {
-            return !model.get().is() || model.get() == model_of(document);
+            return !model.get().is() || model.get() == model_of(document).reference();
         });
         if (asked == 0) tell_now(handlers_.workbook_closing);
     } else if (name == u"OnFocus") {
@@ -99,7 +96,7 @@ void EventListener::document_event(std::u16string_view name, const Document& doc
 
 void EventListener::tell_later(std::u16string_view event, HostEvents::WorkbookHandler HostEvents::*handler,
                                const Document& document) {
-    const auto tell = [weak = weak_from_this(), handler, model = WeakModel(model_of(document))] {
+    const auto tell = [weak = weak_from_this(), handler, model = WeakModel(model_of(document).reference())] {
         const std::shared_ptr<EventListener> self = weak.lock();
         const Document workbook(Ref{model.get()});
         if (!self || !workbook || !(self->handlers_.*handler)) return;
@@ -107,14 +104,14 @@ void EventListener::tell_later(std::u16string_view event, HostEvents::WorkbookHa
         if (std::ranges::find(open, workbook) == open.end()) return;
         (self->handlers_.*handler)(Book{self->host_, workbook}.name());
     };
-    queue_->put(key_of(event, model_of(document).get()), tell);
+    queue_->put(key_of(event, model_of(document).reference().get()), tell);
 }
 
 void EventListener::activated(const Document& document) {
-    const auto model = model_of(document);
-    if (last_activated_.get() == model) return;
-    last_activated_ = model;
-    queue_->put(u"OnFocus", [weak = weak_from_this(), kept = WeakModel(model)] {
+    const Ref model = model_of(document);
+    if (last_activated_.get() == model.reference()) return;
+    last_activated_ = model.reference();
+    queue_->put(u"OnFocus", [weak = weak_from_this(), kept = last_activated_] {
         const std::shared_ptr<EventListener> self = weak.lock();
         const Document workbook(Ref{kept.get()});
         if (self && workbook && self->handlers_.window_activated) {

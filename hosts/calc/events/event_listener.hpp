@@ -10,6 +10,7 @@
 #include "hosts/calc/adapter/ground/host.hpp"
 #include "hosts/calc/events/event_queue.hpp"
 #include "hosts/calc/events/host_events.hpp"
+#include "hosts/calc/uno/listening.hpp"
 
 namespace qor::calc {
 
@@ -55,6 +56,8 @@ class EventListener : public std::enable_shared_from_this<EventListener> {
     HostEvents handlers_;
     HostPointer host_;
     rtl::Reference<OfficeListener> office_;
+    std::optional<Listening> hears_documents_;
+    std::optional<Listening> hears_end_;
     std::vector<WeakModel> asked_to_close_;
     WeakModel last_activated_;
     std::vector<Window> windows_;

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <atomic>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
@@ -13,8 +14,7 @@ namespace qor::calc {
 // queue must be held by a shared pointer.
 class EventQueue : public std::enable_shared_from_this<EventQueue> {
   public:
-    explicit EventQueue(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context)
-        : context_(std::move(context)) {}
+    explicit EventQueue(Context context) : context_(std::move(context)) {}
 
     // Tells it when the main thread is next free, or later. What waits under the same key is told no more.
     void put(std::u16string key, std::function<void()> event);
@@ -27,9 +27,7 @@ class EventQueue : public std::enable_shared_from_this<EventQueue> {
     // May be asked on any thread.
     bool is_closed() const noexcept { return closed_; }
 
-    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context() const noexcept {
-        return context_;
-    }
+    const Context& context() const noexcept { return context_; }
 
   private:
     struct Waiting {
@@ -41,7 +39,7 @@ class EventQueue : public std::enable_shared_from_this<EventQueue> {
     void schedule();
     void tell_waiting();
 
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    Context context_;
     std::vector<Waiting> waiting_;
     bool scheduled_ = false;
     std::atomic<bool> closed_ = false;

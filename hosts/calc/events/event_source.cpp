@@ -6,7 +6,7 @@
 
 namespace qor::calc {
 
-EventSource::EventSource(const css::uno::Reference<css::uno::XComponentContext>& context, HostEvents handlers)
+EventSource::EventSource(const Context& context, HostEvents handlers)
     : queue_(std::make_shared<EventQueue>(context)),
       listener_(std::make_shared<EventListener>(queue_, std::move(handlers))) {
     guarded([&] { listener_->begin(); });

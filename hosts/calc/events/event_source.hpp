@@ -1,10 +1,10 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <memory>
 
 #include "hosts/calc/events/host_events.hpp"
 #include "hosts/calc/events/repeating_timer.hpp"
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
@@ -14,8 +14,7 @@ class EventQueue;
 // Tells the handlers what happens in this process's Calc, from its making until its end or the office's.
 class EventSource {
   public:
-    EventSource(const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
-                HostEvents handlers);
+    EventSource(const Context& context, HostEvents handlers);
     EventSource(const EventSource&) = delete;
     EventSource& operator=(const EventSource&) = delete;
     ~EventSource();

@@ -21,7 +21,7 @@ void OfficeListener::on_listener(Action action) {
 }
 
 void SAL_CALL OfficeListener::documentEventOccured(const css::document::DocumentEvent& event) {
-    const Document document(css::uno::Reference<css::sheet::XSpreadsheetDocument>(event.Source, css::uno::UNO_QUERY));
+    const Document document(Ref{event.Source});
     if (!document) return;
     if (event.EventName == "OnViewCreated") {
         // A window that is being made has no selection yet.
@@ -39,7 +39,7 @@ void SAL_CALL OfficeListener::documentEventOccured(const css::document::Document
 }
 
 void SAL_CALL OfficeListener::selectionChanged(const css::lang::EventObject& event) {
-    const Ref controller{css::uno::Reference<css::frame::XController>(event.Source, css::uno::UNO_QUERY)};
+    const Ref<css::frame::XController> controller(Ref{event.Source});
     on_listener([controller](EventListener& listener) { listener.selection_event(controller); });
 }
 

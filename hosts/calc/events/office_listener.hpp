@@ -2,10 +2,11 @@
 
 #include <com/sun/star/document/XDocumentEventListener.hpp>
 #include <com/sun/star/frame/XTerminateListener.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <com/sun/star/view/XSelectionChangeListener.hpp>
 #include <cppuhelper/implbase3.hxx>
 #include <memory>
+
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
@@ -16,8 +17,7 @@ class OfficeListener final : public cppu::WeakImplHelper3<com::sun::star::docume
                                                           com::sun::star::view::XSelectionChangeListener,
                                                           com::sun::star::frame::XTerminateListener> {
   public:
-    OfficeListener(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context,
-                   std::weak_ptr<EventListener> listener)
+    OfficeListener(Context context, std::weak_ptr<EventListener> listener)
         : context_(std::move(context)), listener_(std::move(listener)) {}
 
     void SAL_CALL documentEventOccured(const com::sun::star::document::DocumentEvent& event) override;
@@ -30,7 +30,7 @@ class OfficeListener final : public cppu::WeakImplHelper3<com::sun::star::docume
     template <class Action>
     void on_listener(Action action);
 
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    Context context_;
     std::weak_ptr<EventListener> listener_;
 };
 

@@ -20,15 +20,14 @@ class StateReader final : public cppu::WeakImplHelper1<css::frame::XStatusListen
     void SAL_CALL disposing(const css::lang::EventObject&) override {}
 };
 
-bool can_quit(const css::uno::Reference<css::uno::XComponentContext>& context) {
-    const Ref desktop{css::frame::Desktop::create(context)};
+bool can_quit(const Context& context) {
+    const Ref desktop{css::frame::Desktop::create(context.reference())};
     const Ref<css::frame::XDispatchProvider> frame(Ref{desktop->getCurrentFrame()});
     if (!frame) return true;
     css::util::URL command;
     command.Complete = ".uno:Quit";
-    Ref {
-        css::util::URLTransformer::create(context)
-        } -> parseStrict(command);
+    const Ref addresses{css::util::URLTransformer::create(context.reference())};
+    addresses->parseStrict(command);
     const Ref dispatch{frame->queryDispatch(command, {}, 0)};
     if (!dispatch) return true;
     const rtl::Reference<StateReader> reader(new StateReader);
@@ -40,7 +39,7 @@ bool can_quit(const css::uno::Reference<css::uno::XComponentContext>& context) {
 }  // namespace
 
 // No interface says it, but the office switches one command off for exactly as long.
-bool is_dialog_open(const css::uno::Reference<css::uno::XComponentContext>& context) {
+bool is_dialog_open(const Context& context) {
     bool open = false;
     attempt([&] { guarded([&] { open = !can_quit(context); }); });
     return open;

@@ -1,4 +1,3 @@
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <cppuhelper/weak.hxx>
 
 #include "hosts/calc/companion/companion_service.hpp"
@@ -15,6 +14,11 @@ using com::sun::star::uno::Reference;
 using com::sun::star::uno::Sequence;
 using com::sun::star::uno::XComponentContext;
 using com::sun::star::uno::XInterface;
+using qor::calc::Context;
+
+Context in_office(XComponentContext* context) {
+    return Reference<XComponentContext>(context);
+}
 
 XInterface* counted(const Reference<XInterface>& object) {
     object->acquire();
@@ -25,15 +29,15 @@ XInterface* counted(const Reference<XInterface>& object) {
 
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_functions(XComponentContext* context, const Sequence<Any>&) {
     qor::calc::keep_sanitizer_in_this_process();
-    return counted(qor::calc::function_add_in(context));
+    return counted(qor::calc::function_add_in(in_office(context)));
 }
 
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_session(XComponentContext* context, const Sequence<Any>&) {
     qor::calc::keep_sanitizer_in_this_process();
-    return counted(qor::calc::make_session_service(context));
+    return counted(qor::calc::make_session_service(in_office(context)));
 }
 
 extern "C" SAL_DLLPUBLIC_EXPORT XInterface* qorplus_companion(XComponentContext* context, const Sequence<Any>&) {
     qor::calc::keep_sanitizer_in_this_process();
-    return counted(qor::calc::make_companion_service(context));
+    return counted(qor::calc::make_companion_service(in_office(context)));
 }

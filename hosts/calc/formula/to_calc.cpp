@@ -2,27 +2,16 @@
 
 #include "hosts/calc/formula/scanner.hpp"
 #include "hosts/calc/formula/translator.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
 namespace {
 
-std::u16string address_of_path(std::u16string_view path) {
-    if (path.find(u"://") != std::u16string_view::npos) return std::u16string(path);
-    static constexpr std::u16string_view plain = u"/-_.~!$&()*+,;=:@";
-    std::u16string address = u"file://";
-    for (const char byte : to_utf8(path)) {
-        const auto unit = static_cast<unsigned char>(byte);
-        if (is_letter(unit) || is_digit(unit) || plain.find(unit) != std::u16string_view::npos) {
-            address += static_cast<char16_t>(unit);
-        } else {
-            static constexpr std::u16string_view digits = u"0123456789ABCDEF";
-            address += u'%';
-            address += digits[unit / 16];
-            address += digits[unit % 16];
-        }
-    }
-    return address;
+// Calc has the scheme in front of whatever stands for a book, also where its folder is not told from the root.
+std::u16string book_address_of(std::u16string_view path) {
+    const std::u16string address = address_of_path(path);
+    return address.find(u"://") == std::u16string::npos ? u"file://" + address : address;
 }
 
 class ToCalc {
@@ -149,12 +138,12 @@ class ToCalc {
         if (open != std::u16string_view::npos && close != std::u16string_view::npos && close > open) {
             const std::u16string_view book = place.substr(open + 1, close - open - 1);
             const std::u16string address = open > 0
-                                               ? address_of_path(std::u16string(place.substr(0, open)).append(book))
+                                               ? book_address_of(std::u16string(place.substr(0, open)).append(book))
                                                : (books_ ? books_(book) : std::u16string());
             sheets = place.substr(close + 1);
             prefix = address.empty() ? u"#REF!" : in_quotes(address) + u"#";
         } else if (place.find(u'/') != std::u16string_view::npos) {
-            in_.put(in_quotes(address_of_path(place)) + u"#");
+            in_.put(in_quotes(book_address_of(place)) + u"#");
             in_.put(in_.take_word());
             return;
         } else if (const std::u16string address = books_ ? books_(place) : std::u16string(); !address.empty()) {

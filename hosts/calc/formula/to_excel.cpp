@@ -1,5 +1,6 @@
 #include "hosts/calc/formula/scanner.hpp"
 #include "hosts/calc/formula/translator.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -13,29 +14,12 @@ struct Place {
     bool any = false;
 };
 
-char hexadecimal(char16_t c) {
-    if (is_digit(c)) return static_cast<char>(c - u'0');
-    const auto lower = static_cast<char16_t>(c | 0x20);
-    return lower >= u'a' && lower <= u'f' ? static_cast<char>(lower - u'a' + 10) : static_cast<char>(-1);
-}
-
-std::u16string path_of(std::u16string_view address) {
+// The reverse of what the translation to Calc does with a book.
+std::u16string path_of_book(std::u16string_view address) {
     static constexpr std::u16string_view scheme = u"file://";
     if (!address.starts_with(scheme)) return std::u16string(address);
-    const std::string bytes = to_utf8(address.substr(scheme.size()));
-    std::string path;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const auto digit = [&](std::size_t ahead) {
-            return i + ahead < bytes.size() ? hexadecimal(static_cast<unsigned char>(bytes[i + ahead])) : char{-1};
-        };
-        if (bytes[i] == '%' && digit(1) >= 0 && digit(2) >= 0) {
-            path += static_cast<char>(digit(1) * 16 + digit(2));
-            i += 2;
-        } else {
-            path += bytes[i];
-        }
-    }
-    return from_utf8(path);
+    const std::u16string_view path = address.substr(scheme.size());
+    return path_of_address(path.starts_with(u'/') ? address : path);
 }
 
 class ToExcel {
@@ -172,7 +156,7 @@ class ToExcel {
         }
         std::u16string text;
         if (!place.book.empty()) {
-            const std::u16string path = path_of(place.book);
+            const std::u16string path = path_of_book(place.book);
             const std::size_t name = path.rfind(u'/') + 1;
             text = place.sheet.empty() ? path : path.substr(0, name) + u"[" + path.substr(name) + u"]";
         }

@@ -107,7 +107,7 @@ class AddIn final
 
 }  // namespace
 
-uno::Reference<uno::XInterface> function_add_in(const uno::Reference<uno::XComponentContext>& context) {
+uno::Reference<uno::XInterface> function_add_in(const Context& context) {
     // Never destroyed: Calc keeps it until the process ends, when LibreOffice's libraries may be gone before ours.
     static const auto* const add_in = [&] {
         watch_loads(context);

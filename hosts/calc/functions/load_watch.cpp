@@ -5,31 +5,27 @@
 #include <cppuhelper/implbase1.hxx>
 
 #include "hosts/calc/functions/repair.hpp"
+#include "hosts/calc/uno/guarded.hpp"
 
 namespace qor::calc {
 namespace {
 
-namespace document = com::sun::star::document;
-namespace lang = com::sun::star::lang;
-namespace uno = com::sun::star::uno;
-
-class LoadWatch final : public cppu::WeakImplHelper1<document::XDocumentEventListener> {
+class LoadWatch final : public cppu::WeakImplHelper1<css::document::XDocumentEventListener> {
   public:
-    void SAL_CALL documentEventOccured(const document::DocumentEvent& event) override {
+    void SAL_CALL documentEventOccured(const css::document::DocumentEvent& event) override {
         if (event.EventName != "OnLoadFinished") return;
-        try {
-            repair_function_names(event.Source);
-        } catch (const uno::Exception&) {
-            // The document stays as it was loaded: others listen for the same event, and must not be disturbed.
-        }
+        const Document loaded(Ref{event.Source});
+        // What fails is left as it was loaded: others listen for the same event, and must not be disturbed.
+        if (loaded) attempt([&] { guarded([&] { repair_function_names(loaded); }); });
     }
-    void SAL_CALL disposing(const lang::EventObject&) override {}
+    void SAL_CALL disposing(const css::lang::EventObject&) override {}
 };
 
 }  // namespace
 
-void watch_loads(const uno::Reference<uno::XComponentContext>& context) {
-    com::sun::star::frame::theGlobalEventBroadcaster::get(context)->addDocumentEventListener(new LoadWatch);
+void watch_loads(const Context& context) {
+    const Ref broadcaster{css::frame::theGlobalEventBroadcaster::get(context.reference())};
+    broadcaster->addDocumentEventListener(new LoadWatch);
 }
 
 }  // namespace qor::calc

@@ -1,7 +1,6 @@
 #include "hosts/calc/functions/repair.hpp"
 
 #include <com/sun/star/container/XIndexAccess.hpp>
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
@@ -9,21 +8,16 @@
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
-#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
-#include <com/sun/star/util/XModifiable.hpp>
 
 #include "functions/registry.hpp"
+#include "hosts/calc/uno/kept_modified_state.hpp"
 #include "hosts/calc/uno/text.hpp"
+#include "hosts/calc/uno/undo.hpp"
 
 namespace qor::calc {
 namespace {
 
-namespace container = com::sun::star::container;
-namespace document = com::sun::star::document;
-namespace sheet = com::sun::star::sheet;
-namespace table = com::sun::star::table;
-namespace uno = com::sun::star::uno;
-namespace util = com::sun::star::util;
+namespace sheet = css::sheet;
 
 bool is_name_unit(char16_t unit) {
     return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') || (unit >= u'0' && unit <= u'9') ||
@@ -41,27 +35,25 @@ bool calls_function(std::u16string_view formula) {
     return false;
 }
 
-void enter_again(const uno::Reference<sheet::XSpreadsheet>& page, sal_Int32 column, sal_Int32 row) {
-    const uno::Reference<table::XCell> cell = page->getCellByPosition(column, row);
+void enter_again(const Ref<sheet::XSpreadsheet>& page, sal_Int32 column, sal_Int32 row) {
+    const Ref cell{page->getCellByPosition(column, row)};
     const rtl::OUString formula = cell->getFormula();
     if (!formula.startsWith("{")) {
         cell->setFormula(formula);
         return;
     }
-    const auto cursor = page->createCursorByRange({uno::Reference<sheet::XSheetCellRange>(cell, uno::UNO_QUERY_THROW)});
+    const Ref cursor{page->createCursorByRange(Ref<sheet::XSheetCellRange>(cell).reference())};
     cursor->collapseToCurrentArray();
-    const uno::Reference<sheet::XArrayFormulaRange> array(cursor, uno::UNO_QUERY_THROW);
+    const Ref<sheet::XArrayFormulaRange> array(cursor);
     array->setArrayFormula(rtl::OUString());
     array->setArrayFormula(formula.copy(1, formula.getLength() - 2));  // without its braces
 }
 
-void repair_sheet(const uno::Reference<sheet::XSpreadsheet>& page) {
-    const uno::Reference<sheet::XCellRangesQuery> cells(page, uno::UNO_QUERY_THROW);
-    for (const table::CellRangeAddress& part :
-         cells->queryContentCells(sheet::CellFlags::FORMULA)->getRangeAddresses()) {
-        const uno::Reference<sheet::XCellRangeFormula> formulas(
-            page->getCellRangeByPosition(part.StartColumn, part.StartRow, part.EndColumn, part.EndRow),
-            uno::UNO_QUERY_THROW);
+void repair_sheet(const Ref<sheet::XSpreadsheet>& page) {
+    const Ref with_formulas{Ref<sheet::XCellRangesQuery>(page)->queryContentCells(sheet::CellFlags::FORMULA)};
+    for (const css::table::CellRangeAddress& part : with_formulas->getRangeAddresses()) {
+        const Ref<sheet::XCellRangeFormula> formulas(
+            Ref{page->getCellRangeByPosition(part.StartColumn, part.StartRow, part.EndColumn, part.EndRow)});
         const auto texts = formulas->getFormulaArray();
         for (sal_Int32 row = 0; row < texts.getLength(); ++row) {
             for (sal_Int32 column = 0; column < texts[row].getLength(); ++column) {
@@ -74,24 +66,13 @@ void repair_sheet(const uno::Reference<sheet::XSpreadsheet>& page) {
 
 }  // namespace
 
-void repair_function_names(const uno::Reference<uno::XInterface>& document_object) {
-    const uno::Reference<sheet::XSpreadsheetDocument> spreadsheet(document_object, uno::UNO_QUERY);
-    if (!spreadsheet.is()) return;
-    const uno::Reference<util::XModifiable> modifiable(spreadsheet, uno::UNO_QUERY_THROW);
-    const bool modified = modifiable->isModified();
-    const auto undo =
-        uno::Reference<document::XUndoManagerSupplier>(spreadsheet, uno::UNO_QUERY_THROW)->getUndoManager();
-    undo->lock();
-    try {
-        const uno::Reference<container::XIndexAccess> sheets(spreadsheet->getSheets(), uno::UNO_QUERY_THROW);
-        for (sal_Int32 place = 0; place < sheets->getCount(); ++place)
-            repair_sheet(uno::Reference<sheet::XSpreadsheet>(sheets->getByIndex(place), uno::UNO_QUERY_THROW));
-    } catch (...) {
-        undo->unlock();
-        throw;
+void repair_function_names(const Document& document) {
+    const KeptModifiedState kept(document);
+    const NoUndo unrecorded(document);
+    const Ref<css::container::XIndexAccess> sheets(Ref{document->getSheets()});
+    for (sal_Int32 place = 0; place < sheets->getCount(); ++place) {
+        repair_sheet(Ref<sheet::XSpreadsheet>(sheets->getByIndex(place)));
     }
-    undo->unlock();
-    modifiable->setModified(modified);
 }
 
 }  // namespace qor::calc

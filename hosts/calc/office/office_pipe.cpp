@@ -11,15 +11,13 @@
 namespace qor::calc {
 namespace {
 
-namespace uno = com::sun::star::uno;
-
 rtl::OUString text(std::string_view utf8) {
     return to_uno(from_utf8(utf8));
 }
 
 // The client's half of the bridge. It must know LibreOffice's types and services before anything else is done.
-uno::Reference<uno::XComponentContext> client_context(const std::filesystem::path& program) {
-    static const uno::Reference<uno::XComponentContext> context = [&] {
+Context client_context(const std::filesystem::path& program) {
+    static const Context context = [&] {
         rtl::Bootstrap::set("URE_BOOTSTRAP", text("vnd.sun.star.pathname:" + (program / "fundamentalrc").string()));
         return cppu::defaultBootstrap_InitialComponentContext();
     }();
@@ -28,13 +26,11 @@ uno::Reference<uno::XComponentContext> client_context(const std::filesystem::pat
 
 }  // namespace
 
-uno::Reference<uno::XComponentContext> office_at_pipe(const std::filesystem::path& program,
-                                                      const std::string& pipe_name) {
-    const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(client_context(program));
+Context office_at_pipe(const std::filesystem::path& program, const std::string& pipe_name) {
+    const Ref resolver{css::bridge::UnoUrlResolver::create(client_context(program).reference())};
     try {
-        return {resolver->resolve(text("uno:pipe,name=" + pipe_name + ";urp;StarOffice.ComponentContext")),
-                uno::UNO_QUERY};
-    } catch (const com::sun::star::connection::NoConnectException&) {
+        return Context(Ref{resolver->resolve(text("uno:pipe,name=" + pipe_name + ";urp;StarOffice.ComponentContext"))});
+    } catch (const css::connection::NoConnectException&) {
         return {};
     }
 }

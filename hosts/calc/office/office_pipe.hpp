@@ -1,13 +1,13 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <filesystem>
 #include <string>
+
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
 // What the LibreOffice that listens at the pipe of that name offers; empty while none does.
-com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> office_at_pipe(
-    const std::filesystem::path& program, const std::string& pipe_name);
+Context office_at_pipe(const std::filesystem::path& program, const std::string& pipe_name);
 
 }  // namespace qor::calc

@@ -4,19 +4,21 @@
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <csignal>
 #include <cstdlib>
-#include <osl/file.hxx>
 #include <rtl/bootstrap.hxx>
 
 #include "hosts/calc/office/office_pipe.hpp"
 #include "hosts/calc/office/office_socket.hpp"
 #include "hosts/calc/office/process/office_error.hpp"
+#include "hosts/calc/office/process/start_variable.hpp"
 #include "hosts/calc/uno/text.hpp"
+#include "platform/file_address.hpp"
+#include "platform/files.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
 namespace {
 
-namespace uno = com::sun::star::uno;
+namespace uno = css::uno;
 using namespace std::chrono_literals;
 
 constexpr auto longest_start = 90s;
@@ -28,12 +30,6 @@ rtl::OUString text(std::string_view utf8) {
 
 std::string utf8(const rtl::OUString& text) {
     return to_utf8(view_of(text));
-}
-
-rtl::OUString file_url(const std::filesystem::path& path) {
-    rtl::OUString url;
-    osl::FileBase::getFileURLFromSystemPath(text(path.native()), url);
-    return url;
 }
 
 std::filesystem::path make_private_folder() {
@@ -59,17 +55,17 @@ OfficeStart start_options(const std::filesystem::path& program, const std::files
     const std::string drawn_by = screen == OfficeScreen::none ? "svp" : "gtk3";
     start.environment = {"SAL_USE_VCLPLUGIN=" + drawn_by, "TMPDIR=" + folder.string()};
     if (profile == Profile::fresh) {
-        const rtl::OUString profile_url = file_url(folder / "profile");
-        start.lock_owner = utf8(profile_url);
-        start.leftovers.push_back(profile_socket(profile_url));
-        start.arguments.push_back("-env:UserInstallation=" + utf8(profile_url));
+        const std::string profile_url = address_in_variable(folder / "profile");
+        start.lock_owner = profile_url;
+        start.leftovers.push_back(profile_socket(text(profile_url)));
+        start.arguments.push_back("-env:UserInstallation=" + profile_url);
         // The outcome of a run must not depend on the user's language; file names are UTF-8 whatever it is.
         start.environment.emplace_back("LC_ALL=C.UTF-8");
     }
     if (!component_lists.empty()) {
         std::string services = "-env:URE_MORE_SERVICES=";
-        for (const auto& list : component_lists) services += utf8(file_url(list)) + " ";
-        start.arguments.push_back(services + "<" + utf8(file_url(program / "services")) + ">*");
+        for (const auto& list : component_lists) services += address_in_variable(list) + " ";
+        start.arguments.push_back(services + "<" + address_in_variable(program / "services") + ">*");
     }
     return start;
 }
@@ -77,7 +73,7 @@ OfficeStart start_options(const std::filesystem::path& program, const std::files
 }  // namespace
 
 rtl::OUString user_profile_url(const std::filesystem::path& program) {
-    const rtl::Bootstrap settings(file_url(program / "bootstraprc"));
+    const rtl::Bootstrap settings(to_uno(address_of_path(path_text(program / "bootstraprc"))));
     rtl::OUString url;
     settings.getFrom("UserInstallation", url);
     return url;
@@ -102,7 +98,7 @@ PrivateOffice::~PrivateOffice() {
 
 void PrivateOffice::connect(const std::filesystem::path& program, const std::string& pipe_name) {
     const auto latest = std::chrono::steady_clock::now() + longest_start;
-    while (!context_.is()) {
+    while (!context_) {
         if (process_->ends_within(10ms)) throw OfficeError("LibreOffice ended while it was starting");
         if (std::chrono::steady_clock::now() > latest) throw OfficeError("LibreOffice did not answer in 90 seconds");
         context_ = office_at_pipe(program, pipe_name);
@@ -112,7 +108,7 @@ void PrivateOffice::connect(const std::filesystem::path& program, const std::str
 void PrivateOffice::work(const std::function<void()>& task) {
     try {
         task();
-    } catch (const com::sun::star::lang::DisposedException&) {
+    } catch (const css::lang::DisposedException&) {
         throw OfficeError("LibreOffice ended unexpectedly; what was not saved before is lost");
     } catch (const uno::Exception& refusal) {
         throw OfficeError("LibreOffice refused: " + utf8(refusal.Message));
@@ -121,7 +117,8 @@ void PrivateOffice::work(const std::function<void()>& task) {
 
 bool PrivateOffice::end_within(std::chrono::milliseconds limit) {
     try {
-        com::sun::star::frame::Desktop::create(context_)->terminate();
+        const Ref desktop{css::frame::Desktop::create(context_.reference())};
+        desktop->terminate();
     } catch (const uno::Exception&) {
         // Gone already: the bridge breaks as often before the answer as after it.
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "hosts/calc/office/process/office_process.hpp"
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
@@ -41,9 +41,7 @@ class PrivateOffice {
     PrivateOffice& operator=(const PrivateOffice&) = delete;
     ~PrivateOffice();
 
-    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context() const noexcept {
-        return context_;
-    }
+    const Context& context() const noexcept { return context_; }
 
     // Removed when LibreOffice ends.
     const std::filesystem::path& temporary_folder() const noexcept { return folder_; }
@@ -60,7 +58,7 @@ class PrivateOffice {
 
     std::filesystem::path folder_;
     std::optional<OfficeProcess> process_;
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> context_;
+    Context context_;
 };
 
 // The user's own profile as LibreOffice has it, as a file address.

@@ -1,18 +1,16 @@
 #pragma once
 
 #include <com/sun/star/frame/XModel.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <filesystem>
+
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
 // The open document of that file, empty when there is none.
-com::sun::star::uno::Reference<com::sun::star::frame::XModel> document_of(
-    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context,
-    const std::filesystem::path& file);
+Ref<css::frame::XModel> document_of(const Context& context, const std::filesystem::path& file);
 
 // Tells the document that its file lies elsewhere now.
-void move_document(const com::sun::star::uno::Reference<com::sun::star::frame::XModel>& document,
-                   const std::filesystem::path& file);
+void move_document(const Ref<css::frame::XModel>& document, const std::filesystem::path& file);
 
 }  // namespace qor::calc

@@ -38,7 +38,7 @@ std::string told(const Error& error) {
     return text + ")";
 }
 
-SessionHost session_host(const uno::Reference<uno::XComponentContext>& context, const SessionFolders& folders) {
+SessionHost session_host(const Context& context, const SessionFolders& folders) {
     return {
         .make_application =
             [context, &folders](ScriptScreen& screen, const std::filesystem::path& data_folder) {
@@ -57,7 +57,7 @@ SessionHost session_host(const uno::Reference<uno::XComponentContext>& context, 
 
 class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XServiceInfo> {
   public:
-    explicit SessionService(const uno::Reference<uno::XComponentContext>& context) : context_(context) {}
+    explicit SessionService(const Context& context) : context_(context) {}
 
     uno::Any SAL_CALL execute(const Arguments& arguments) override {
         const json answer = play(arguments);
@@ -107,12 +107,12 @@ class SessionService final : public cppu::WeakImplHelper2<task::XJob, lang::XSer
         return qor::play(json::parse(text_in(arguments, "Script")), session_host(context_, folders), folders);
     }
 
-    uno::Reference<uno::XComponentContext> context_;
+    Context context_;
 };
 
 }  // namespace
 
-uno::Reference<uno::XInterface> make_session_service(const uno::Reference<uno::XComponentContext>& context) {
+uno::Reference<uno::XInterface> make_session_service(const Context& context) {
     return static_cast<cppu::OWeakObject*>(new SessionService(context));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <com/sun/star/uno/XComponentContext.hpp>
+#include "hosts/calc/uno/context.hpp"
 
 namespace qor::calc {
 
@@ -8,7 +8,6 @@ namespace qor::calc {
 // execute() takes the script's JSON text as "Script", the folder that relative paths start from as "Folder", one for
 // the run's own files as "TemporaryFolder", and as "HiddenName" the name of the folders beside files that are written.
 // It gives a JSON text: {"transcript": ...}, or {"error": {"kind": "script" or "host", "message": ...}}.
-com::sun::star::uno::Reference<com::sun::star::uno::XInterface> make_session_service(
-    const com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext>& context);
+css::uno::Reference<css::uno::XInterface> make_session_service(const Context& context);
 
 }  // namespace qor::calc

@@ -14,8 +14,6 @@
 namespace qor::calc {
 namespace {
 
-namespace css = com::sun::star;
-
 class Callback final : public cppu::WeakImplHelper1<css::awt::XCallback> {
   public:
     explicit Callback(const std::function<void()>& work) : work_(work) {}
@@ -54,23 +52,24 @@ bool on_main_thread() noexcept {
     return gettid() == getpid();
 }
 
-void post_to_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context, std::function<void()> work) {
+void post_to_main_thread(const Context& context, std::function<void()> work) {
     try {
-        css::awt::AsyncCallback::create(context)->addCallback(new Posted(std::move(work)), css::uno::Any());
+        const Ref queue{css::awt::AsyncCallback::create(context.reference())};
+        queue->addCallback(new Posted(std::move(work)), css::uno::Any());
     } catch (const css::uno::Exception&) {
         // The office ends, and its main thread is never free again.
     }
 }
 
-void run_on_main_thread(const css::uno::Reference<css::uno::XComponentContext>& context,
-                        const std::function<void()>& work) {
+void run_on_main_thread(const Context& context, const std::function<void()>& work) {
     if (on_main_thread()) {
         work();
         return;
     }
     const rtl::Reference<Callback> callback(new Callback(work));
     std::future<void> finished = callback->finished();
-    css::awt::AsyncCallback::create(context)->addCallback(callback.get(), css::uno::Any());
+    const Ref queue{css::awt::AsyncCallback::create(context.reference())};
+    queue->addCallback(callback.get(), css::uno::Any());
     finished.get();
 }
 

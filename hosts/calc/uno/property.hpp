@@ -4,18 +4,23 @@
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/uno/Sequence.hxx>
 #include <initializer_list>
+#include <type_traits>
 
 #include "hosts/calc/uno/ref.hpp"
 #include "hosts/calc/uno/text.hpp"
 
 namespace qor::calc {
 
-// The value in the type asked for; raises 1004 when it is of another.
+// The value in the type asked for, an object as a Ref; raises 1004 when it is of another.
 template <class T>
 T value_of(const css::uno::Any& value) {
-    T result{};
-    if (!(value >>= result)) throw Error(ErrorNumber::host_refused);
-    return result;
+    if constexpr (requires(const T& object) { object.reference(); }) {
+        return value_of<std::remove_cvref_t<decltype(std::declval<T>().reference())>>(value);
+    } else {
+        T result{};
+        if (!(value >>= result)) throw Error(ErrorNumber::host_refused);
+        return result;
+    }
 }
 
 template <class T, class Interface>

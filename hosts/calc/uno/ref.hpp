@@ -11,14 +11,14 @@ namespace css = com::sun::star;
 
 namespace qor::calc {
 
-// How many calls have been made through Ref since the process started: the measure of a tool's cost that does not
-// depend on the machine.
-inline std::uint64_t host_calls = 0;
-// The call of this number fails before it reaches the office, as any may: tests set it. 0: none.
-inline std::uint64_t failing_host_call = 0;
+// How many calls this thread has made through Ref since it started: the measure of a tool's cost that does not depend
+// on the machine. The office also calls us on threads of its own.
+inline thread_local std::uint64_t host_calls = 0;
+// This thread's call of this number fails before it reaches the office, as any may: tests set it. 0: none.
+inline thread_local std::uint64_t failing_host_call = 0;
 
 // A reference to an interface of the office. A call through an empty one raises 1004: the office answers null where it
-// refuses.
+// refuses. All calls into the office go through it; the office's own Reference stays in its signatures and factories.
 template <class Interface>
 class Ref {
   public:

@@ -2,8 +2,8 @@
 
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 
+#include "hosts/calc/uno/context.hpp"
 #include "hosts/calc/uno/ref.hpp"
 #include "hosts/calc/uno/text.hpp"
 
@@ -11,9 +11,10 @@ namespace qor::calc {
 
 // A new object of the office. Empty when there is no such service or it lacks the interface.
 template <class Interface>
-Ref<Interface> create_service(const css::uno::Reference<css::uno::XComponentContext>& context, const char* name) {
+Ref<Interface> create_service(const Context& context, const char* name) {
     const Ref factory{context->getServiceManager()};
-    return Ref<Interface>(Ref{factory->createInstanceWithContext(rtl::OUString::createFromAscii(name), context)});
+    return Ref<Interface>(
+        Ref{factory->createInstanceWithContext(rtl::OUString::createFromAscii(name), context.reference())});
 }
 
 // A new object that belongs to a document.

@@ -1,6 +1,7 @@
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 
+#include "hosts/calc/adapter/ground/host.hpp"
 #include "hosts/calc/adapter/ground/undo_step.hpp"
 #include "hosts/calc/uno/text.hpp"
 #include "tests/calc/support/fixture.hpp"

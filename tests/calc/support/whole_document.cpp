@@ -4,10 +4,10 @@
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 
-#include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/ground/host.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/text.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc::tests {

@@ -45,14 +45,14 @@ using Position = std::pair<std::int32_t, std::int32_t>;
 // The cells that show the same text: one search finds all of one kind of error.
 std::set<Position> cells_showing(const Cells& cells, const rtl::OUString& text) {
     const Ref<css::util::XSearchable> searchable(cells);
-    const css::uno::Reference<css::util::XSearchDescriptor> search = searchable->createSearchDescriptor();
-    Ref(search)->setSearchString(text);
+    const Ref search{searchable->createSearchDescriptor()};
+    search->setSearchString(text);
     constexpr sal_Int16 in_values = 1;
-    set_property(Ref{search}, "SearchType", in_values);
-    set_property(Ref{search}, "SearchWords", true);
-    set_property(Ref{search}, "SearchFormatted", true);
+    set_property(search, "SearchType", in_values);
+    set_property(search, "SearchWords", true);
+    set_property(search, "SearchFormatted", true);
     std::set<Position> result;
-    const Ref<css::sheet::XSheetCellRanges> found(Ref{searchable->findAll(search)});
+    const Ref<css::sheet::XSheetCellRanges> found(Ref{searchable->findAll(search.reference())});
     if (!found) return result;
     for (const css::table::CellRangeAddress& at : found->getRangeAddresses()) {
         for (sal_Int32 row = at.StartRow; row <= at.EndRow; ++row) {

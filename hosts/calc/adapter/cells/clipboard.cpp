@@ -31,7 +31,7 @@ constexpr std::array kinds{Kind{numbers::paste::all, "A", true}, Kind{numbers::p
 
 Ref<css::datatransfer::clipboard::XClipboard> system_clipboard(const HostPointer& host) {
     return Ref<css::datatransfer::clipboard::XClipboard>(
-        Ref{css::datatransfer::clipboard::SystemClipboard::create(host->context())});
+        Ref{css::datatransfer::clipboard::SystemClipboard::create(host->context().reference())});
 }
 
 // The place that a copy takes from the target's corner on.

@@ -79,7 +79,7 @@ RichTexts::Part RichTexts::part_of(const Ref<css::uno::XInterface>& portion) {
         return is_look(name) && states->getPropertyState(name) == css::beans::PropertyState_DIRECT_VALUE;
     });
     if (get_property<rtl::OUString>(portion, "TextPortionType") == "TextField") {
-        const Ref field{get_property<css::uno::Reference<css::text::XTextField>>(portion, "TextField")};
+        const auto field = get_property<Ref<css::text::XTextField>>(portion, "TextField");
         part.field = service_of(field);
         part.settings = properties_of(Ref<css::uno::XInterface>(field), [](const rtl::OUString&) { return true; });
     } else {
@@ -110,17 +110,17 @@ void RichTexts::write(const Text& text) const {
     const Ref<css::text::XText> cell(Ref{cells_->getCellByPosition(text.column, text.row)});
     cell->setString({});
     const Ref cursor{cell->createTextCursor()};
-    const css::uno::Reference<css::text::XTextRange> place(cursor.reference(), css::uno::UNO_QUERY);
+    const Ref<css::text::XTextRange> place(cursor);
     const Ref<css::lang::XMultiServiceFactory> factory(sheet_.book.document);
     for (std::size_t paragraph = 0; paragraph < text.paragraphs.size(); ++paragraph) {
         cursor->gotoEnd(false);
         if (paragraph > 0) {
-            cell->insertControlCharacter(place, css::text::ControlCharacter::PARAGRAPH_BREAK, false);
+            cell->insertControlCharacter(place.reference(), css::text::ControlCharacter::PARAGRAPH_BREAK, false);
         }
         for (const Part& part : text.paragraphs[paragraph]) {
             cursor->gotoEnd(false);
             if (part.field.isEmpty()) {
-                cell->insertString(place, part.text, false);
+                cell->insertString(place.reference(), part.text, false);
                 continue;
             }
             const Ref<css::text::XTextContent> field(Ref{factory->createInstance(part.field)});
@@ -131,7 +131,7 @@ void RichTexts::write(const Text& text) const {
                         [&] { Ref<css::beans::XPropertySet>(field)->setPropertyValue(setting.Name, setting.Value); });
                 });
             }
-            cell->insertTextContent(place, field.reference(), false);
+            cell->insertTextContent(place.reference(), field.reference(), false);
         }
     }
     cursor->gotoStart(false);

@@ -8,6 +8,7 @@
 #include "hosts/calc/adapter/ground/interaction.hpp"
 #include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/property.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {

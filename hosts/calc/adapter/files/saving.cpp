@@ -1,6 +1,5 @@
 #include "hosts/calc/adapter/files/saving.hpp"
 
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/util/XModifiable.hpp>
 #include <filesystem>
@@ -10,8 +9,11 @@
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/ground/interaction.hpp"
 #include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/kept_modified_state.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
+#include "hosts/calc/uno/undo.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -46,8 +48,7 @@ class ActiveSheetFirst {
     explicit ActiveSheetFirst(const Book& book)
         : sheets_(book.document->getSheets()), sheet_(book.active_sheet()), place_(sheet_.index()) {
         if (place_ == 0) return;
-        undo_ = Ref{Ref<css::document::XUndoManagerSupplier>(book.document)->getUndoManager()};
-        undo_->lock();
+        unrecorded_.emplace(book.document);
         sheets_->moveByName(to_uno(sheet_.name()), 0);
     }
     ActiveSheetFirst(const ActiveSheetFirst&) = delete;
@@ -58,14 +59,13 @@ class ActiveSheetFirst {
             guarded([&] {
                 // The place is counted before the sheet is taken away from the first.
                 sheets_->moveByName(to_uno(sheet_.name()), static_cast<sal_Int16>(place_ + 1));
-                undo_->unlock();
             });
         });
     }
 
   private:
     Ref<css::sheet::XSpreadsheets> sheets_;
-    Ref<css::document::XUndoManager> undo_;
+    std::optional<NoUndo> unrecorded_;
     Sheet sheet_;
     std::int32_t place_;
 };
@@ -152,11 +152,8 @@ void save_book_copy(const Book& book, const std::u16string& path) {
     const auto store = [&](const Ref<css::frame::XStorable>& storable) {
         storable->storeToURL(to_uno(address_of_path(full)), description_of(*format));
     };
-    const Ref<css::util::XModifiable> changes(book.document);
-    const bool was_changed = changes->isModified();
-    const bool written = stored(book, format, store);
-    changes->setModified(was_changed);
-    if (!written) refuse_file(full, u"cannot be saved.");
+    const KeptModifiedState kept(book.document);
+    if (!stored(book, format, store)) refuse_file(full, u"cannot be saved.");
 }
 
 bool save_or_ask_where(const Book& book) {

@@ -12,8 +12,8 @@ namespace qor::calc {
 namespace {
 
 Rectangle array_around(const Sheet& sheet, const Cells& cell) {
-    const css::uno::Reference<css::sheet::XSheetCellRange> start(cell.reference(), css::uno::UNO_QUERY);
-    const Ref cursor{sheet.sheet->createCursorByRange(start)};
+    const Ref<css::sheet::XSheetCellRange> start(cell);
+    const Ref cursor{sheet.sheet->createCursorByRange(start.reference())};
     cursor->collapseToCurrentArray();
     return rectangle_of(Cells(cursor));
 }

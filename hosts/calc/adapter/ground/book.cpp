@@ -10,13 +10,14 @@
 
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/uno/property.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
 namespace {
 
 DrawPage page_at(const Ref<css::drawing::XDrawPages>& pages, std::int32_t index) {
-    return value_of<css::uno::Reference<css::drawing::XDrawPage>>(pages->getByIndex(index));
+    return value_of<DrawPage>(pages->getByIndex(index));
 }
 
 }  // namespace

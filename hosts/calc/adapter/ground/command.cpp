@@ -6,10 +6,10 @@
 namespace qor::calc {
 
 void run_command(const Book& book, const char* command, const PropertyValues& arguments) {
-    const Ref helper{css::frame::DispatchHelper::create(book.host->context())};
+    const Ref helper{css::frame::DispatchHelper::create(book.host->context().reference())};
     const Ref controller{book.model()->getCurrentController()};
-    const css::uno::Reference<css::frame::XDispatchProvider> frame(controller->getFrame(), css::uno::UNO_QUERY);
-    helper->executeDispatch(frame, rtl::OUString::createFromAscii(command), {}, 0, arguments);
+    const Ref<css::frame::XDispatchProvider> frame(Ref{controller->getFrame()});
+    helper->executeDispatch(frame.reference(), rtl::OUString::createFromAscii(command), {}, 0, arguments);
 }
 
 }  // namespace qor::calc

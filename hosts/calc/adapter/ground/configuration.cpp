@@ -9,9 +9,8 @@
 
 namespace qor::calc {
 
-Configuration::Configuration(const css::uno::Reference<css::uno::XComponentContext>& context,
-                             std::u16string_view node) {
-    const Ref provider{css::configuration::theDefaultProvider::get(context)};
+Configuration::Configuration(const Context& context, std::u16string_view node) {
+    const Ref provider{css::configuration::theDefaultProvider::get(context.reference())};
     node_ = Ref<css::container::XNameAccess>(Ref{provider->createInstanceWithArguments(
         "com.sun.star.configuration.ConfigurationUpdateAccess",
         sequence_of<css::uno::Any>({css::uno::Any(named_value("nodepath", to_uno(node)))}))});

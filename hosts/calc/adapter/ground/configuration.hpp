@@ -1,10 +1,10 @@
 #pragma once
 
 #include <com/sun/star/container/XNameAccess.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <string_view>
 
 #include "automation/variant.hpp"
+#include "hosts/calc/uno/context.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
@@ -12,7 +12,7 @@ namespace qor::calc {
 // A node of the office's configuration with the settings below it.
 class Configuration {
   public:
-    Configuration(const css::uno::Reference<css::uno::XComponentContext>& context, std::u16string_view node);
+    Configuration(const Context& context, std::u16string_view node);
 
     // Raises 1004 when there is none of that name.
     css::uno::Any value(const char* name) const;

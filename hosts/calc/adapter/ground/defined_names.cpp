@@ -21,7 +21,7 @@ using Names = Ref<css::sheet::XNamedRanges>;
 }
 
 Names names_of(const Ref<css::uno::XInterface>& owner) {
-    return Names(get_property<css::uno::Reference<css::sheet::XNamedRanges>>(owner, "NamedRanges"));
+    return get_property<Names>(owner, "NamedRanges");
 }
 Names names_of(const Book& book) {
     return names_of(Ref<css::uno::XInterface>(book.document));

@@ -8,9 +8,6 @@ namespace qor::calc {
 // The absolute path that a text means, with either separator; relative ones start from the current folder.
 std::u16string full_path(const std::u16string& path);
 std::u16string file_name_of(std::u16string_view path);
-// The system's path of a file's address and the reverse; an address that is no file's stays as it is.
-std::u16string path_of_address(std::u16string_view address);
-std::u16string address_of_path(std::u16string_view path);
 
 // Raises 1004: the path in quotes and the reason.
 [[noreturn]] void refuse_file(std::u16string_view path, std::u16string_view reason);

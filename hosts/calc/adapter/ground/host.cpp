@@ -10,7 +10,7 @@
 
 #include "hosts/calc/adapter/ground/configuration.hpp"
 #include "hosts/calc/adapter/ground/function_names.hpp"
-#include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/surely.hpp"
 
 namespace qor::calc {
 namespace {
@@ -26,9 +26,9 @@ std::vector<Controller> controllers_of(const Document& document) {
 // workbook.
 Window window_of(const Controller& controller) {
     if (!controller) return {};
-    const css::uno::Reference<css::frame::XModel> model = controller->getModel();
-    if (Document document{Ref{model}}) return {document, controller};
-    const Ref<css::container::XChild> part{Ref{model}};
+    const Ref model{controller->getModel()};
+    if (Document document{model}) return {document, controller};
+    const Ref<css::container::XChild> part{model};
     const Document document = part ? Document{Ref{part->getParent()}} : Document();
     if (!document) return {};
     return {document, Controller{Ref<css::frame::XModel>(document)->getCurrentController()}};
@@ -36,12 +36,11 @@ Window window_of(const Controller& controller) {
 
 }  // namespace
 
-Host::Host(css::uno::Reference<css::uno::XComponentContext> context, std::shared_ptr<HostUser> user,
-           std::u16string companion_folder)
+Host::Host(Context context, std::shared_ptr<HostUser> user, std::u16string companion_folder)
     : context_(std::move(context)),
       user_(std::move(user)),
       companion_folder_(std::move(companion_folder)),
-      desktop_(css::frame::Desktop::create(context_)),
+      desktop_(css::frame::Desktop::create(context_.reference())),
       window_list_(context_) {}
 
 HostUser& Host::user() const {
@@ -154,16 +153,9 @@ void Host::lock_screens() {
 void Host::unlock_screens() {
     for (const Document& document : std::exchange(locked_, {})) {
         const Ref<css::frame::XModel> model(document);
-        const auto unlock = [&] {
-            return attempt([&] {
-                       guarded([&] {
-                           if (model->hasControllersLocked()) model->unlockControllers();
-                       });
-                   }) == 0;
-        };
-        // A screen must not stand still for ever, so one failure is not believed. A workbook that is closed fails
-        // twice.
-        if (!unlock()) unlock();
+        surely([&] {
+            if (model->hasControllersLocked()) model->unlockControllers();
+        });
     }
 }
 

@@ -2,8 +2,6 @@
 
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/frame/XModel.hpp>
-#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -12,11 +10,10 @@
 #include "hosts/calc/adapter/ground/status_bar.hpp"
 #include "hosts/calc/adapter/ground/window_list.hpp"
 #include "hosts/calc/formula/translator.hpp"
-#include "hosts/calc/uno/ref.hpp"
+#include "hosts/calc/uno/context.hpp"
+#include "hosts/calc/uno/document.hpp"
 
 namespace qor::calc {
-
-using Document = Ref<css::sheet::XSpreadsheetDocument>;
 
 struct Window {
     Document document;
@@ -27,10 +24,9 @@ struct Window {
 class Host : public std::enable_shared_from_this<Host> {
   public:
     // The companion's folder is where the data files lie. Without a user every question is refused.
-    explicit Host(css::uno::Reference<css::uno::XComponentContext> context, std::shared_ptr<HostUser> user = {},
-                  std::u16string companion_folder = {});
+    explicit Host(Context context, std::shared_ptr<HostUser> user = {}, std::u16string companion_folder = {});
 
-    const css::uno::Reference<css::uno::XComponentContext>& context() const noexcept { return context_; }
+    const Context& context() const noexcept { return context_; }
     const Ref<css::frame::XDesktop2>& desktop() const noexcept { return desktop_; }
 
     HostUser& user() const;
@@ -71,7 +67,7 @@ class Host : public std::enable_shared_from_this<Host> {
     void lock_screens();
     void unlock_screens();
 
-    css::uno::Reference<css::uno::XComponentContext> context_;
+    Context context_;
     std::shared_ptr<HostUser> user_;
     std::u16string companion_folder_;
     Ref<css::frame::XDesktop2> desktop_;

@@ -10,9 +10,9 @@ namespace {
 class RefuseQuestions final : public cppu::WeakImplHelper1<css::task::XInteractionHandler> {
   public:
     void SAL_CALL handle(const css::uno::Reference<css::task::XInteractionRequest>& request) override {
-        for (const auto& answer : request->getContinuations()) {
-            const css::uno::Reference<css::task::XInteractionAbort> abort(answer, css::uno::UNO_QUERY);
-            if (abort.is()) return abort->select();
+        const Ref question{request};
+        for (const auto& answer : question->getContinuations()) {
+            if (const Ref<css::task::XInteractionAbort> abort{Ref{answer}}) return abort->select();
         }
     }
 };

@@ -40,10 +40,8 @@ Rectangle rectangle_between(const CornerPair& pair, const Rectangle& origin) {
 }
 
 std::optional<RangeAreas> range_of_name(const Sheet& sheet, std::u16string_view name) {
-    for (const auto& names :
-         {get_property<css::uno::Reference<css::container::XNameAccess>>(sheet.sheet, "NamedRanges"),
-          get_property<css::uno::Reference<css::container::XNameAccess>>(sheet.book.document, "NamedRanges")}) {
-        const Ref defined{names};
+    for (const auto& defined : {get_property<Ref<css::container::XNameAccess>>(sheet.sheet, "NamedRanges"),
+                                get_property<Ref<css::container::XNameAccess>>(sheet.book.document, "NamedRanges")}) {
         for (const rtl::OUString& candidate : defined->getElementNames()) {
             if (!equal_ignoring_case(view_of(candidate), name)) continue;
             const Ref<css::sheet::XCellRangeReferrer> referrer(defined->getByName(candidate));

@@ -1,10 +1,10 @@
 #include "hosts/calc/adapter/ground/undo_action.hpp"
 
 #include <com/sun/star/document/UndoFailedException.hpp>
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
+#include <rtl/ref.hxx>
 
-#include "hosts/calc/adapter/ground/undo_step.hpp"
 #include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/undo.hpp"
 
 namespace qor::calc {
 
@@ -28,10 +28,8 @@ void UndoAction::run(const std::function<void()>& change) {
 }
 
 void add_undo_action(const Document& document, UndoAction* action) {
-    const css::uno::Reference<css::document::XUndoAction> kept(action);
-    Ref {
-        Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager()
-        } -> addUndoAction(kept);
+    const rtl::Reference<UndoAction> kept(action);
+    undo_manager(document)->addUndoAction(kept.get());
 }
 
 }  // namespace qor::calc

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <com/sun/star/document/XUndoManager.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "hosts/calc/adapter/ground/host.hpp"
 #include "hosts/calc/uno/running_command.hpp"
+#include "hosts/calc/uno/undo.hpp"
 
 namespace qor::calc {
 
@@ -29,24 +29,12 @@ class UndoStep {
     RunningCommand command_;
     std::u16string title_;
     bool outermost_;
-    struct Entered {
+    struct Change {
         Document document;
-        Ref<css::document::XUndoManager> manager;
+        std::optional<UndoContext> context;
         bool is_wrong = false;
     };
-    std::vector<Entered> entered_;
-};
-
-// While it lives, nothing that is done to the document comes into its undo list: for what a user only sees.
-class NoUndo {
-  public:
-    explicit NoUndo(const Document& document);
-    NoUndo(const NoUndo&) = delete;
-    NoUndo& operator=(const NoUndo&) = delete;
-    ~NoUndo();
-
-  private:
-    Ref<css::document::XUndoManager> manager_;
+    std::vector<Change> changes_;
 };
 
 }  // namespace qor::calc

@@ -7,8 +7,6 @@
 #include <com/sun/star/frame/theGlobalEventBroadcaster.hpp>
 #include <cppuhelper/implbase1.hxx>
 
-#include "hosts/calc/uno/guarded.hpp"
-
 namespace qor::calc {
 
 class WindowWatch final : public cppu::WeakImplHelper1<css::document::XDocumentEventListener> {
@@ -40,22 +38,13 @@ class WindowWatch final : public cppu::WeakImplHelper1<css::document::XDocumentE
     std::vector<Caption> captions;
 };
 
-WindowList::WindowList(const css::uno::Reference<css::uno::XComponentContext>& context)
-    : context_(context), watch_(new WindowWatch) {
-    Ref {
-        css::frame::theGlobalEventBroadcaster::get(context_)
-        } -> addDocumentEventListener(watch_.get());
-}
+WindowList::WindowList(const Context& context)
+    : watch_(new WindowWatch),
+      listening_(Ref{css::frame::theGlobalEventBroadcaster::get(context.reference())},
+                 &css::document::XDocumentEventBroadcaster::addDocumentEventListener,
+                 &css::document::XDocumentEventBroadcaster::removeDocumentEventListener, watch_.get()) {}
 
-WindowList::~WindowList() {
-    attempt([&] {
-        guarded([&] {
-            Ref {
-                css::frame::theGlobalEventBroadcaster::get(context_)
-                } -> removeDocumentEventListener(watch_.get());
-        });
-    });
-}
+WindowList::~WindowList() = default;
 
 void WindowList::note_active(const Controller& window) {
     watch_->note_active(window);

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <com/sun/star/frame/XController.hpp>
-#include <com/sun/star/uno/XComponentContext.hpp>
 #include <optional>
 #include <rtl/ref.hxx>
 #include <string>
 #include <vector>
 
+#include "hosts/calc/uno/context.hpp"
+#include "hosts/calc/uno/listening.hpp"
 #include "hosts/calc/uno/ref.hpp"
 
 namespace qor::calc {
@@ -19,7 +20,7 @@ class WindowWatch;
 // given.
 class WindowList {
   public:
-    explicit WindowList(const css::uno::Reference<css::uno::XComponentContext>& context);
+    explicit WindowList(const Context& context);
     WindowList(const WindowList&) = delete;
     WindowList& operator=(const WindowList&) = delete;
     ~WindowList();
@@ -32,8 +33,8 @@ class WindowList {
     void set_caption(const Controller& window, const std::u16string& caption);
 
   private:
-    css::uno::Reference<css::uno::XComponentContext> context_;
     rtl::Reference<WindowWatch> watch_;
+    Listening listening_;
 };
 
 bool can_be_seen(const Controller& window);

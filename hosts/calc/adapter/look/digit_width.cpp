@@ -28,7 +28,7 @@ double digit_width(const Book& book) {
     css::awt::FontDescriptor font;
     font.Name = get_property<rtl::OUString>(style, "CharFontName");
     font.Height = great_height;
-    const Ref device{get_property<css::uno::Reference<css::awt::XDevice>>(book.document, "ReferenceDevice")};
+    const auto device = get_property<Ref<css::awt::XDevice>>(book.document, "ReferenceDevice");
     const Ref measure{device->getFont(font)};
     sal_Int16 widest = 0;
     for (sal_Unicode digit = u'0'; digit <= u'9'; ++digit) widest = std::max(widest, measure->getCharWidth(digit));

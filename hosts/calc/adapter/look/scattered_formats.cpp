@@ -1,19 +1,17 @@
 #include "hosts/calc/adapter/look/scattered_formats.hpp"
 
 #include <com/sun/star/beans/XPropertyState.hpp>
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <optional>
 
 #include "hosts/calc/adapter/ground/undo_action.hpp"
 #include "hosts/calc/adapter/ground/undo_step.hpp"
-#include "hosts/calc/uno/guarded.hpp"
 #include "hosts/calc/uno/property.hpp"
+#include "hosts/calc/uno/surely.hpp"
 
 namespace qor::calc {
 namespace {
 
-using UndoManager = Ref<css::document::XUndoManager>;
 using FormattedCells = Ref<css::uno::XInterface>;
 
 constexpr const char* number_format = "NumberFormat";
@@ -23,35 +21,18 @@ constexpr const char* records = "IsUndoEnabled";
 // forgets the steps of the innermost undo context, so it gets an empty one.
 class NoRecording {
   public:
-    NoRecording(const Document& document, const UndoManager& manager) : document_(document), manager_(manager) {
-        manager_->enterUndoContext({});
-        try {
-            set_property(document_, records, false);
-        } catch (...) {
-            leave();
-            throw;
-        }
+    explicit NoRecording(const Document& document) : document_(document), empty_(document, {}) {
+        set_property(document_, records, false);
     }
     NoRecording(const NoRecording&) = delete;
     NoRecording& operator=(const NoRecording&) = delete;
     ~NoRecording() {
         surely([&] { set_property(document_, records, true); });
-        leave();
     }
 
   private:
-    void leave() const {
-        surely([&] { manager_->leaveUndoContext(); });
-    }
-    // A document that records nothing any more would lose what its user does, so one failure is not believed.
-    template <class Statement>
-    static void surely(const Statement& statement) {
-        const auto fails = [&] { return attempt([&] { guarded(statement); }) != 0; };
-        if (fails()) fails();
-    }
-
     Document document_;
-    UndoManager manager_;
+    UndoContext empty_;
 };
 
 class FormatChange final : public UndoAction {
@@ -84,11 +65,10 @@ void set_scattered_format(const RangeAreas& areas, std::int32_t key) {
     const Document& document = areas.sheet.book.document;
     const UndoStep step(u"Format");
     UndoStep::note_change(document);
-    const UndoManager manager(Ref<css::document::XUndoManagerSupplier>(document)->getUndoManager());
     const UndoAction::Places places = Ref<css::sheet::XSheetCellRanges>(cells)->getRangeAddresses();
     // Recorded first, so that what fails halfway is undone, too.
     add_undo_action(document, new FormatChange(document, places, before, key));
-    const NoRecording unrecorded(document, manager);
+    const NoRecording unrecorded(document);
     set_property(cells, number_format, key);
 }
 

@@ -87,7 +87,7 @@ class CalcObject : public Dispatch {
         (object_model().push_back({Self::name_of_type, &CalcObject::describe_members}), true);
 };
 
-using Identity = css::uno::Reference<css::uno::XInterface>;
+using Identity = Ref<css::uno::XInterface>;
 
 // A member that a class has from its base.
 template <class Self, class Base>

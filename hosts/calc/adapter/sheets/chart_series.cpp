@@ -112,8 +112,7 @@ std::u16string ChartSeries::formula(const FormulaTranslator& translator) const {
 
 std::vector<ChartSeries> series_of(const DrawnObject& chart) {
     namespace chart2 = css::chart2;
-    const Ref<chart2::XChartDocument> document(
-        Ref{get_property<css::uno::Reference<css::uno::XInterface>>(chart.shape, "Model")});
+    const Ref<chart2::XChartDocument> document(get_property<Ref<css::uno::XInterface>>(chart.shape, "Model"));
     const Ref<chart2::XCoordinateSystemContainer> diagram(Ref{document->getFirstDiagram()});
     std::vector<ChartSeries> result;
     if (!diagram) return result;

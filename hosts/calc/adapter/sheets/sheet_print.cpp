@@ -10,16 +10,15 @@
 #include <com/sun/star/view/XPrintable.hpp>
 #include <cppuhelper/implbase1.hxx>
 #include <filesystem>
-#include <memory>
 #include <rtl/ref.hxx>
 
-#include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/ground/selection.hpp"
 #include "hosts/calc/adapter/sheets/drawn_objects.hpp"
 #include "hosts/calc/adapter/sheets/kept_view.hpp"
 #include "hosts/calc/adapter/sheets/used_area.hpp"
-#include "hosts/calc/uno/guarded.hpp"
+#include "hosts/calc/uno/listening.hpp"
 #include "hosts/calc/uno/property.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 
 namespace qor::calc {
@@ -61,17 +60,15 @@ class PrintResult final : public cppu::WeakImplHelper1<css::view::XPrintJobListe
 void print(const Document& document, const PropertyValues& options) {
     const Ref<css::view::XPrintJobBroadcaster> jobs(document);
     const rtl::Reference<PrintResult> result(new PrintResult);
-    const css::uno::Reference<css::view::XPrintJobListener> listener(result.get());
-    jobs->addPrintJobListener(listener);
-    const std::shared_ptr<void> end(
-        nullptr, [&](void*) { attempt([&] { guarded([&] { jobs->removePrintJobListener(listener); }); }); });
+    const Listening listening(jobs, &css::view::XPrintJobBroadcaster::addPrintJobListener,
+                              &css::view::XPrintJobBroadcaster::removePrintJobListener, result.get());
     Ref<css::view::XPrintable>(document)->print(options);
     if (result->failed()) throw Error(ErrorNumber::host_refused, {}, u"The pages cannot be printed.");
 }
 
 // The office prints with another one where it does not know the printer, or with none at all.
 void require_printer(const HostPointer& host, const std::optional<std::u16string>& name) {
-    const Ref server{css::awt::PrinterServer::create(host->context())};
+    const Ref server{css::awt::PrinterServer::create(host->context().reference())};
     const auto printers = server->getPrinterNames();
     if (printers.getLength() == 0) throw Error(ErrorNumber::host_refused, {}, u"No printers are installed.");
     if (!name || std::ranges::find(printers, to_uno(*name)) != printers.end()) return;

@@ -20,7 +20,7 @@ namespace {
 class Speller {
   public:
     explicit Speller(const Book& book) : language_(get_property<css::lang::Locale>(book.document, "CharLocale")) {
-        const Ref manager{css::linguistic2::LinguServiceManager::create(book.host->context())};
+        const Ref manager{css::linguistic2::LinguServiceManager::create(book.host->context().reference())};
         speller_ = manager->getSpellChecker();
         // Without a dictionary it takes every word for right.
         const bool known = speller_ && speller_->hasLocale(language_);

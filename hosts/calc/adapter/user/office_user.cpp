@@ -16,7 +16,7 @@
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/user/range_picker.hpp"
 #include "hosts/calc/uno/guarded.hpp"
-#include "hosts/calc/uno/ref.hpp"
+#include "platform/file_address.hpp"
 
 namespace qor::calc {
 namespace {
@@ -58,13 +58,13 @@ constexpr std::array answers{
 
 class OfficeUser final : public HostUser {
   public:
-    explicit OfficeUser(css::uno::Reference<css::uno::XComponentContext> context) : context_(std::move(context)) {}
+    explicit OfficeUser(Context context) : context_(std::move(context)) {}
 
     MessageAnswer message_box(const MessageBox& message) override {
         const auto* preset = std::ranges::find(answers, default_answer(message), &Button::answer);
-        const Ref<css::awt::XMessageBoxFactory> factory(Ref{css::awt::Toolkit::create(context_)});
+        const Ref<css::awt::XMessageBoxFactory> factory(Ref{css::awt::Toolkit::create(context_.reference())});
         const Ref box{
-            factory->createMessageBox(window(), office_boxes.at(static_cast<std::size_t>(message.icon)),
+            factory->createMessageBox(window().reference(), office_boxes.at(static_cast<std::size_t>(message.icon)),
                                       office_buttons.at(static_cast<std::size_t>(message.buttons)) | preset->as_default,
                                       to_uno(message.title), to_uno(message.text))};
         const std::int32_t result = box->execute();
@@ -75,8 +75,8 @@ class OfficeUser final : public HostUser {
     }
 
     std::optional<std::u16string> file_to_save(FileDialog& dialog) override {
-        const Ref picker{
-            dialogs::FilePicker::createWithMode(context_, dialogs::TemplateDescription::FILESAVE_AUTOEXTENSION)};
+        const Ref picker{dialogs::FilePicker::createWithMode(context_.reference(),
+                                                             dialogs::TemplateDescription::FILESAVE_AUTOEXTENSION)};
         picker->setTitle(to_uno(dialog.title));
         for (const auto& kind : dialog.kinds) picker->appendFilter(to_uno(kind.description), to_uno(kind.pattern));
         if (!dialog.kinds.empty()) {
@@ -103,26 +103,27 @@ class OfficeUser final : public HostUser {
 
     bool show_page(const std::u16string& address) override {
         const auto show = [&] {
-            css::system::SystemShellExecute::create(context_)->execute(to_uno(address), {},
-                                                                       css::system::SystemShellExecuteFlags::URIS_ONLY);
+            const Ref system{css::system::SystemShellExecute::create(context_.reference())};
+            system->execute(to_uno(address), {}, css::system::SystemShellExecuteFlags::URIS_ONLY);
         };
         return attempt([&] { guarded(show); }) == 0;
     }
 
   private:
     // Whatever is in front, so that the box stands before it.
-    css::uno::Reference<css::awt::XWindowPeer> window() const {
-        const auto frame = css::frame::Desktop::create(context_)->getCurrentFrame();
-        if (!frame.is()) return {};
-        return {frame->getContainerWindow(), css::uno::UNO_QUERY};
+    Ref<css::awt::XWindowPeer> window() const {
+        const Ref desktop{css::frame::Desktop::create(context_.reference())};
+        const Ref frame{desktop->getCurrentFrame()};
+        if (!frame) return {};
+        return Ref<css::awt::XWindowPeer>(Ref{frame->getContainerWindow()});
     }
 
-    css::uno::Reference<css::uno::XComponentContext> context_;
+    Context context_;
 };
 
 }  // namespace
 
-std::shared_ptr<HostUser> office_user(const css::uno::Reference<css::uno::XComponentContext>& context) {
+std::shared_ptr<HostUser> office_user(const Context& context) {
     return std::make_shared<OfficeUser>(context);
 }
 

@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "hosts/calc/formula/translator.hpp"
+#include "hosts/calc/uno/listening.hpp"
 #include "hosts/calc/uno/property.hpp"
 #include "hosts/calc/uno/sequence.hpp"
 
@@ -50,27 +51,28 @@ bool is_on_screen(const Ref<css::frame::XFrame>& frame) {
 }
 
 // Lets the office draw and answer the user.
-void handle_events(const css::uno::Reference<css::uno::XComponentContext>& context) {
-    const Ref<css::awt::XToolkitExperimental> events(Ref{css::awt::Toolkit::create(context)});
+void handle_events(const Context& context) {
+    const Ref<css::awt::XToolkitExperimental> events(Ref{css::awt::Toolkit::create(context.reference())});
     events->processEventsToIdle();
     std::this_thread::sleep_for(10ms);
 }
 
 }  // namespace
 
-std::optional<std::u16string> pick_range(const css::uno::Reference<css::uno::XComponentContext>& context,
-                                         const RangeQuestion& question) {
-    const Ref<css::frame::XFrame> frame{css::frame::Desktop::create(context)->getCurrentFrame()};
+std::optional<std::u16string> pick_range(const Context& context, const RangeQuestion& question) {
+    const Ref desktop{css::frame::Desktop::create(context.reference())};
+    const Ref frame{desktop->getCurrentFrame()};
     if (!frame || !is_on_screen(frame)) return {};
     const Ref<css::sheet::XRangeSelection> picker(Ref{frame->getController()});
     if (!picker) return {};
     const rtl::Reference<Selection> selection(new Selection);
-    picker->addRangeSelectionListener(selection.get());
+    using Picker = css::sheet::XRangeSelection;
+    const Listening listening(picker, &Picker::addRangeSelectionListener, &Picker::removeRangeSelectionListener,
+                              selection.get());
     picker->startRangeSelection(sequence_of({named_value("InitialValue", to_uno(question.proposed)),
                                              named_value("Title", to_uno(question.title + u" - " + question.prompt)),
                                              named_value("CloseOnMouseRelease", false)}));
     while (!selection->ended()) handle_events(context);
-    picker->removeRangeSelectionListener(selection.get());
     return selection->range();
 }
 

@@ -27,7 +27,7 @@ class ApplicationObject final : public CalcObject<ApplicationObject> {
 
     static const MemberTable<ApplicationObject>& members();
 
-    Identity identity() const { return Identity(host_->desktop().reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(host_->desktop()); }
 
   private:
     // Nothing where no window of a workbook can be seen.
@@ -192,8 +192,7 @@ Object make_application(HostPointer host) {
     return make_object<ApplicationObject>(std::move(host));
 }
 
-Object make_application(const css::uno::Reference<css::uno::XComponentContext>& context, std::shared_ptr<HostUser> user,
-                        std::u16string companion_folder) {
+Object make_application(const Context& context, std::shared_ptr<HostUser> user, std::u16string companion_folder) {
     return guarded([&] {
         return make_application(std::make_shared<Host>(context, std::move(user), std::move(companion_folder)));
     });

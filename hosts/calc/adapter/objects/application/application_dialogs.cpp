@@ -5,6 +5,7 @@
 #include "automation/host_numbers.hpp"
 #include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/objects/objects.hpp"
+#include "platform/file_address.hpp"
 #include "platform/text.hpp"
 #include "runtime/conversion.hpp"
 

@@ -18,7 +18,7 @@ class CompanionBookObject final : public OwnedObject<CompanionBookObject, HostPo
         return table;
     }
 
-    Identity identity() const { return Identity(owner()->desktop().reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(owner()->desktop()); }
 
   private:
     std::u16string path() { return owner()->companion_folder(); }

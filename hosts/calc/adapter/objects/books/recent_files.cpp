@@ -1,7 +1,7 @@
 #include "hosts/calc/adapter/files/documents.hpp"
 #include "hosts/calc/adapter/files/recent_file_list.hpp"
-#include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/objects/collection.hpp"
+#include "platform/file_address.hpp"
 
 namespace qor::calc {
 namespace {

@@ -19,7 +19,7 @@ class WindowObject final : public OwnedObject<WindowObject, Book> {
     }
     static const MemberTable<WindowObject>& members();
 
-    Identity identity() const { return Identity(controller_.reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(controller_); }
 
   private:
     Ref<css::awt::XWindow2> window() const {

@@ -55,7 +55,7 @@ class WindowsObject final : public Collection<WindowsObject, HostPointer> {
         std::erase_if(shown, [&](const Window& window) {
             return !takes_part(window) || (of_active_workbook.value_or(false) && window.document != active);
         });
-        const Ref toolkit{css::awt::Toolkit::create(owner()->context())};
+        const Ref toolkit{css::awt::Toolkit::create(owner()->context().reference())};
         const css::awt::Rectangle screen = toolkit->getWorkArea();
         const auto chosen = static_cast<ArrangeStyle>(style.value_or(number_of(ArrangeStyle::tiled)));
         const auto places = arranged(chosen, shown.size(), {screen.X, screen.Y, screen.Width, screen.Height});

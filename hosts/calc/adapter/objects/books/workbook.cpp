@@ -18,7 +18,7 @@ class WorkbookObject final : public CalcObject<WorkbookObject> {
     void require_alive() const { book_.require_alive(); }
     static const MemberTable<WorkbookObject>& members();
 
-    Identity identity() const { return Identity(book_.document.reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(book_.document); }
 
   private:
     std::u16string name() { return book_.name(); }

@@ -69,7 +69,7 @@ bool matches(const Control& control, const ControlSearch& search) {
 
 // The office's own controls have no tags: what was never read need not be read to look for one.
 bool may_have_tags(const ControlPlace& place) {
-    return place.popup ? !place.popup->unread_children.is() : place.bar->read;
+    return place.popup ? !place.popup->unread_children : place.bar->read;
 }
 
 ControlPointer popup_around(const Controls& controls, const Control& control) {

@@ -18,7 +18,7 @@ class SeriesObject final : public OwnedObject<SeriesObject, DrawnObject> {
 
     SeriesObject(DrawnObject chart, ChartSeries series) : OwnedObject(std::move(chart)), series_(std::move(series)) {}
 
-    Identity identity() const { return Identity(series_.series.reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(series_.series); }
     void require_alive() const {
         OwnedObject::require_alive();
         current();
@@ -78,7 +78,7 @@ class ChartObject final : public OwnedObject<ChartObject, DrawnObject> {
 
     using OwnedObject::OwnedObject;
 
-    Identity identity() const { return Identity(owner().shape.reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(owner().shape); }
     Object parent() const { return make_chart_object(owner()); }
     static const MemberTable<ChartObject>& members() {
         static const MemberTable<ChartObject> table(rows_with({

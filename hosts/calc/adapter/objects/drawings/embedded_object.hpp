@@ -21,7 +21,7 @@ class EmbeddedObject : public OwnedObject<Self, DrawnObject> {
   public:
     using Base::Base;
 
-    Identity identity() const { return Identity(this->owner().shape.reference(), css::uno::UNO_QUERY); }
+    Identity identity() const { return Identity(this->owner().shape); }
     Object parent() const { return make_worksheet(this->owner().sheet); }
 
   protected:

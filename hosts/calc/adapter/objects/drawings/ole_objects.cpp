@@ -1,7 +1,7 @@
 #include "automation/host_numbers.hpp"
-#include "hosts/calc/adapter/ground/file_paths.hpp"
 #include "hosts/calc/adapter/objects/drawings/embedded_object.hpp"
 #include "hosts/calc/uno/property.hpp"
+#include "platform/file_address.hpp"
 
 namespace qor::calc {
 namespace {

@@ -78,12 +78,11 @@ Kind kind_of(const Entry& entry) {
 }
 
 std::vector<Condition> conditions_of(const Sheet& sheet, const Rectangle& cell) {
-    const Ref all{
-        get_property<css::uno::Reference<css::sheet::XConditionalFormats>>(sheet.sheet, "ConditionalFormats")};
+    const auto all = get_property<Ref<css::sheet::XConditionalFormats>>(sheet.sheet, "ConditionalFormats");
     std::vector<std::pair<sal_Int32, Condition>> found;
     for (const auto& one : all->getConditionalFormats()) {
         const Ref format{one};
-        const Ref ranges{get_property<css::uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range")};
+        const auto ranges = get_property<Ref<css::sheet::XSheetCellRanges>>(format, "Range");
         const auto places = ranges->getRangeAddresses();
         const bool holds_cell = std::ranges::any_of(places, [&](const css::table::CellRangeAddress& at) {
             return Rectangle{at.StartColumn, at.StartRow, at.EndColumn, at.EndRow}.contains(cell);

@@ -66,8 +66,7 @@ class HyperlinksObject final : public OwnedObject<HyperlinksObject, RangeAreas> 
 
     static bool is_link(const Link& part) {
         if (get_property<rtl::OUString>(part, "TextPortionType") != "TextField") return false;
-        const Ref<css::beans::XPropertySet> field(
-            Ref{get_property<css::uno::Reference<css::text::XTextField>>(part, "TextField")});
+        const Ref<css::beans::XPropertySet> field(get_property<Ref<css::text::XTextField>>(part, "TextField"));
         return Ref(field->getPropertySetInfo())->hasPropertyByName("URL");
     }
 

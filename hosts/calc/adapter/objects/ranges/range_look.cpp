@@ -161,9 +161,8 @@ void RangeObject::set_formula_hidden(bool hidden) {
 // Whether the first cell belongs to merged ones.
 Variant RangeObject::merge_cells() {
     const Rectangle area = areas_.rectangle();
-    const css::uno::Reference<css::sheet::XSheetCellRange> first(
-        cells_at(areas_.sheet, {area.left, area.top, area.left, area.top}).reference(), css::uno::UNO_QUERY);
-    const Ref cursor{areas_.sheet.sheet->createCursorByRange(first)};
+    const Ref<css::sheet::XSheetCellRange> first(cells_at(areas_.sheet, {area.left, area.top, area.left, area.top}));
+    const Ref cursor{areas_.sheet.sheet->createCursorByRange(first.reference())};
     cursor->collapseToMergedArea();
     return rectangle_of(Cells(cursor)).cells() > 1;
 }

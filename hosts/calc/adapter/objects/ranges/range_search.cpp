@@ -87,8 +87,7 @@ Object RangeObject::find(const std::u16string& what, const Variant& after, std::
                          std::optional<std::int32_t> look_at, std::optional<std::int32_t> order,
                          std::optional<std::int32_t> direction, std::optional<bool> match_case) {
     const Ref<css::util::XSearchable> searchable(areas_.whole());
-    const css::uno::Reference<css::util::XSearchDescriptor> search = searchable->createSearchDescriptor();
-    const Ref settings{search};
+    const Ref settings{searchable->createSearchDescriptor()};
     settings->setSearchString(pattern(what));
     set_property(settings, "SearchBackwards", direction.value_or(0) == numbers::search_direction::previous);
     set_property(settings, "SearchByRow", order.value_or(0) != numbers::search_order::by_columns);
@@ -101,8 +100,8 @@ Object RangeObject::find(const std::u16string& what, const Variant& after, std::
     const RangeAreas start = after.is_missing()
                                  ? range_at(areas_.sheet, {corner.left, corner.top, corner.left, corner.top})
                                  : areas_of(after);
-    Ref<css::uno::XInterface> found{searchable->findNext(start.areas.front().reference(), search)};
-    if (!found) found = Ref<css::uno::XInterface>(searchable->findFirst(search));
+    Ref<css::uno::XInterface> found{searchable->findNext(start.areas.front().reference(), settings.reference())};
+    if (!found) found = Ref<css::uno::XInterface>(searchable->findFirst(settings.reference()));
     if (!found) return {};
     const Rectangle at = rectangle_of(Cells(found));
     return make_range(range_at(areas_.sheet, {at.left, at.top, at.left, at.top}));
