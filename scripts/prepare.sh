@@ -59,11 +59,11 @@ unpack_toolkit_headers() {
 build_packages=(g++ cmake ninja-build ccache pkg-config libglib2.0-dev libcli11-dev nlohmann-json3-dev libfmt-dev
     libreoffice-calc libreoffice-dev librsvg2-bin optipng libwxgtk3.2-dev libgtk-3-dev
     doctest-dev librapidcheck-dev libbenchmark-dev libpng-dev)  # the last four: configuring looks at tests and bench too
-run_packages=(libreoffice-gtk3 libreoffice-base-drivers poppler-utils fonts-liberation)
-test_packages=(clang-format clang-tidy procps
+run_packages=(libreoffice-gtk3 libreoffice-base-drivers librsvg2-common xdg-utils poppler-utils fonts-liberation)
+test_packages=(git python3 clang-format clang-tidy
     xvfb openbox xdotool hunspell-en-us python3-openpyxl python3-xlrd)
 sample_packages=(libreoffice-dev-doc python-odf-doc r-cran-openxlsx r-cran-readxl)  # workbooks that others made
-windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine64 libwine-dev)
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine64 libwine-dev xz-utils)
 
 # Checkouts in other folders share what ccache keeps.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros

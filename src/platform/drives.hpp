@@ -30,7 +30,7 @@ struct Volume {
     std::uint32_t serial_number = 0;  // 0 if it has none
     std::int32_t max_filename_length = 0;
     std::uint32_t flags = 0;
-    std::u16string file_system;
+    std::u16string file_system;  // empty if the system does not tell, as of a root that is no mount of its own
 };
 
 // The machine's drives by their roots, such as "C:\". No member throws.

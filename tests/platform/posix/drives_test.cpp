@@ -4,6 +4,8 @@
 #include <sys/statvfs.h>
 
 #include "platform/posix/block_device.hpp"
+#include "platform/posix/mount_table.hpp"
+#include "platform/text.hpp"
 
 using namespace qor;
 
@@ -19,7 +21,7 @@ TEST_CASE("C is the root file system") {
     const std::optional<Volume> volume = drives.volume(u"c:\\");
     REQUIRE(volume);
     CHECK(volume->max_filename_length == static_cast<std::int32_t>(figures.f_namemax));
-    CHECK_FALSE(volume->file_system.empty());
+    CHECK(to_utf8(volume->file_system) == lettered_mounts(read_mount_table()).front().mount.type);
     CHECK((volume->flags & file_system_flags::case_preserved_names) != 0);
     CHECK(drives.kind(u"C:\\") != DriveKind::no_root_directory);
     CHECK(drives.space(drives.current_root()).has_value());
