@@ -23,6 +23,7 @@ bool is_ours(const FileContent& content) {
 
 // `bytes` over the start of the file; what is longer stays when `keep_tail` says so.
 bool write(std::u16string_view path, std::string bytes, bool keep_tail) {
+    if (path.empty()) return false;  // its lock would be a file in the current folder
     auto file = LockedFile::acquire(native_path(path));
     if (!file) return false;
     const FileContent old = content_of(file->path());

@@ -84,4 +84,5 @@ TEST_CASE_FIXTURE(Fixture, "what cannot be read or written is passed over") {
     std::filesystem::create_directory(file);
     CHECK(load_data_file(path).size() == 0);
     CHECK_FALSE(save_empty_data_file(u""));
+    CHECK_FALSE(std::filesystem::exists(".lock"));
 }
