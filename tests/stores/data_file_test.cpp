@@ -83,6 +83,12 @@ TEST_CASE_FIXTURE(Fixture, "what cannot be read or written is passed over") {
     CHECK_FALSE(save_data_file(from_utf8((folder.path / "missing" / "file.dat").string()), bag_of(u"x")));
     std::filesystem::create_directory(file);
     CHECK(load_data_file(path).size() == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file without a name is not written, and leaves nothing in the current folder") {
+    const std::filesystem::path current = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path);
     CHECK_FALSE(save_empty_data_file(u""));
-    CHECK_FALSE(std::filesystem::exists(".lock"));
+    CHECK(folder.names().empty());
+    std::filesystem::current_path(current);
 }
