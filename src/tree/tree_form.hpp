@@ -18,7 +18,7 @@ class TreeForm : public ToolForm {
     void connect(ctlTree& tree, Buttons& buttons);
     // What OK does before the form closes.
     virtual void work() = 0;
-    // Runs a member of the tree under a window that shows its progress.
+    // Runs a job on the tree under a window that shows its progress.
     void with_progress(const std::function<void()>& job);
 
     void on_load() override;
